@@ -1,0 +1,48 @@
+"""What every picture of the package has in common: sizes, key colours and the way it is saved."""
+
+import numpy as np
+from PIL import Image
+
+SCREEN = (800, 520)
+ICON = (76, 60)
+SHOT = (234, 232)
+FRAME_AT = (346, 52)  # the large frame's corner; its window opens at (353, 58)
+FRAME_SIZE = (295, 289)
+WINDOW_AT = (353, 58)
+WINDOW_SIZE = (281, 277)
+BOX_SIZE = (84, 82)  # the small target box
+BOX_AT = (232, 103)  # where it and the zoomed map's offset stand when the editor starts
+SHOT_AT = (542, 267)
+ICONS_AT = {2: [(311, 380), (405, 380)], 3: [(256, 380), (350, 380), (444, 380)]}
+MAP_SIZE = (1600, 1040)
+ZOOM = 2
+
+KEY = (0, 0, 255)  # transparent in overlays, the target box and symbols
+SIDE_INK = (255, 255, 0)  # becomes the side's colour in symbols
+SIDES = ("all", "sov", "psy")
+
+# A colour this close to a key reads as a fringe once the picture is reduced to 256 colours.
+KEY_DISTANCE = 90
+
+
+def hexrgb(text):
+    """'1a2b3c' as three numbers."""
+    return tuple(int(text[i : i + 2], 16) for i in (0, 2, 4))
+
+
+def blank(size, colour=KEY):
+    """A picture of one colour as an (h, w, 3) array of bytes; size is (w, h)."""
+    return np.full((size[1], size[0], 3), colour, np.uint8)
+
+
+def save(picture, path):
+    """Writes an (h, w, 3) array, or an Image, as an 8-bit RGB file without alpha."""
+    if not isinstance(picture, Image.Image):
+        picture = Image.fromarray(np.ascontiguousarray(np.clip(np.rint(picture), 0, 255), np.uint8))
+    picture.convert("RGB").save(path, optimize=True)
+
+
+def reduce_colours(picture, count):
+    """The picture with at most that many different colours, and no dithering."""
+    image = Image.fromarray(np.clip(np.rint(picture), 0, 255).astype(np.uint8))
+    return np.array(image.quantize(count, Image.MEDIANCUT, dither=Image.NONE).convert("RGB"))
