@@ -1,0 +1,101 @@
+#include "dialogs/open_image.h"
+
+#include <algorithm>
+#include <string>
+
+#include "dialogs/image_preview.h"
+#include "imaging/image_files.h"
+#include "resources/resource.h"
+
+namespace {
+
+// How much the frame and the preview stay below the height of the extended dialog.
+constexpr int kBelowFrame = 100;
+constexpr int kBelowPreview = 120;
+constexpr int kFrameWidth = 230;
+constexpr int kPreviewWidth = 210;
+
+void AddStyle(HWND window, int index, LONG_PTR bits) {
+  SetWindowLongPtrA(window, index, GetWindowLongPtrA(window, index) | bits);
+}
+
+void OnInitDialog(HWND pane) {
+  OpenPreviewPicture();
+  AddStyle(GetParent(pane), GWL_STYLE, WS_OVERLAPPEDWINDOW);
+  // The frame draws its edges only, and the pane leaves out its children's areas when it erases
+  // its background: without this the frame stays black inside.
+  AddStyle(GetDlgItem(pane, IDC_OPEN_FRAME), GWL_EXSTYLE, WS_EX_TRANSPARENT);
+}
+
+void Resize(HWND pane, int id, int width, int height) {
+  SetWindowPos(GetDlgItem(pane, id), nullptr, 0, 0, width, std::max(height, 0),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void OnSize(HWND pane, int height) {
+  Resize(pane, IDC_OPEN_FRAME, kFrameWidth, height - kBelowFrame);
+  Resize(pane, IDC_OPEN_PREVIEW, kPreviewWidth, height - kBelowPreview);
+}
+
+void OnSelectionChanged(HWND pane) {
+  char path[MAX_PATH] = "";
+  const LRESULT needed =
+      SendMessageA(GetParent(pane), CDM_GETFILEPATH, MAX_PATH - 1, reinterpret_cast<LPARAM>(path));
+  // A path that is cut short would be another file's.
+  if (needed > MAX_PATH - 1) path[0] = '\0';
+  LoadPreviewPicture(path);
+  InvalidateRect(GetDlgItem(pane, IDC_OPEN_PREVIEW), nullptr, TRUE);
+}
+
+UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam) {
+  switch (message) {
+    case WM_INITDIALOG:
+      OnInitDialog(pane);
+      return 1;
+    case WM_SIZE:
+      OnSize(pane, HIWORD(lParam));
+      return 1;
+    case WM_NOTIFY:
+      if (reinterpret_cast<const NMHDR*>(lParam)->code == CDN_SELCHANGE) OnSelectionChanged(pane);
+      return 1;
+    case WM_DESTROY:
+      ClosePreviewPicture();
+      return 1;
+  }
+  return 0;
+}
+
+// The path's folder with its backslash; a path without a backslash whole.
+std::string FolderOf(const char* path) {
+  std::string folder = path;
+  const size_t backslash = folder.rfind('\\');
+  if (backslash != std::string::npos) folder.resize(backslash + 1);
+  return folder;
+}
+
+}  // namespace
+
+int OpenImageWithPreview(HWND owner, char (&path)[MAX_PATH], BitmapClass& surface) {
+  const std::string folder = FolderOf(path);
+  path[0] = '\0';
+  OPENFILENAMEA dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner;
+  dialog.hInstance = GetModuleHandleA(nullptr);
+  dialog.lpstrFilter = imageFilter;
+  dialog.lpstrFile = path;
+  dialog.nMaxFile = MAX_PATH;
+  dialog.lpstrInitialDir = folder.c_str();
+  dialog.lpstrTitle = "Choose file to open";
+  dialog.lpstrDefExt = "bmp";
+  dialog.lpTemplateName = MAKEINTRESOURCEA(IDD_OPEN_PREVIEW);
+  dialog.lpfnHook = OpenPreviewHook;
+  dialog.Flags = OFN_HIDEREADONLY | OFN_ENABLEHOOK | OFN_ENABLETEMPLATE | OFN_FILEMUSTEXIST |
+                 OFN_EXPLORER | OFN_ENABLESIZING;
+  if (!GetOpenFileNameA(&dialog)) {
+    // A buffer that is too small comes back with the needed size in place of a path.
+    path[0] = '\0';
+    return 0;
+  }
+  return LoadImageFile(path, surface);
+}

@@ -1,0 +1,68 @@
+#include "dialogs/select_item.h"
+
+#include <cstdio>
+
+#include "dialogs/dialog.h"
+#include "document/item_operations.h"
+#include "document/load_screen_doc.h"
+#include "resources/resource.h"
+
+namespace {
+
+void AddLine(HWND list, int32_t index) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%02d : x = %03d y = %03d", index, ItemX(index), ItemY(index));
+  const LRESULT line = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+  SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(line), index);
+}
+
+// The list is sorted by text: from the 101st item on lines and items differ in order.
+void SelectLineOf(HWND list, int32_t index) {
+  const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);
+  for (LRESULT line = 0; line < count; ++line) {
+    const WPARAM position = static_cast<WPARAM>(line);
+    if (SendMessageA(list, LB_GETITEMDATA, position, 0) != index) continue;
+    SendMessageA(list, LB_SETCURSEL, position, 0);
+    return;
+  }
+}
+
+INT_PTR OnInitDialog(HWND dialog) {
+  const HWND list = GetDlgItem(dialog, IDC_SELECT_LIST);
+  for (int32_t i = 0; i < doc.items.Count(); ++i) AddLine(list, i);
+  if (doc.selectedItem != -1) SelectLineOf(list, doc.selectedItem);
+  SetFocus(list);
+  return FALSE;
+}
+
+void OnLineSelected(HWND list) {
+  const LRESULT line = SendMessageA(list, LB_GETCURSEL, 0, 0);
+  if (line == LB_ERR) return;
+  const LRESULT index = SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(line), 0);
+  if (doc.items.Contains(static_cast<int32_t>(index))) SelectItem(static_cast<int32_t>(index));
+}
+
+INT_PTR OnCommand(HWND dialog, int id, UINT notification) {
+  if (id == IDC_SELECT_LIST && notification == LBN_SELCHANGE) {
+    OnLineSelected(GetDlgItem(dialog, id));
+  }
+  if (id == IDCANCEL) EndDialog(dialog, 0);
+  return FALSE;
+}
+
+INT_PTR CALLBACK SelectItemProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+  switch (message) {
+    case WM_INITDIALOG:
+      return OnInitDialog(dialog);
+    case WM_COMMAND:
+      return OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
+    case WM_CLOSE:
+      EndDialog(dialog, 0);
+      return TRUE;
+  }
+  return FALSE;
+}
+
+}  // namespace
+
+void OpenSelectItem() { RunDialog(IDD_SELECT_ITEM, doc.mainWindow, SelectItemProc); }

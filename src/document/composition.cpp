@@ -1,0 +1,92 @@
+#include "document/composition.h"
+
+#include <algorithm>
+
+#include "document/load_screen_doc.h"
+
+namespace {
+
+struct Point {
+  int32_t x, y;
+};
+
+struct Rectangle {
+  int32_t x, y, width, height;
+};
+
+constexpr Rectangle kPicture = {0, 0, kPictureWidth, kPictureHeight};
+constexpr Point kTwoIcons[] = {{311, 380}, {405, 380}};
+constexpr Point kThreeIcons[] = {{256, 380}, {350, 380}, {444, 380}};
+constexpr Point kScreenshot = {542, 267};
+constexpr Point kLargeFrame = {346, 52};
+constexpr Rectangle kZoomWindow = {353, 58, 281, 277};
+constexpr int32_t kFanLines = 5;
+constexpr uint32_t kUpperFan[kFanLines] = {0xC0C0C0, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xC0C0C0};
+constexpr uint32_t kLowerFan[kFanLines] = {0x969696, 0xC8C8C8, 0xC8C8C8, 0xC8C8C8, 0x969696};
+
+// Shows a map in a window from its pixel (x, y) on, continued by its left columns and top rows.
+void Tile(BitmapClass& target, const BitmapClass& map, int32_t x, int32_t y,
+          const Rectangle& window) {
+  const int32_t w1 = std::min(map.width - x, window.width);
+  const int32_t w2 = std::max(x - map.width + window.width, 0);
+  const int32_t h1 = std::min(map.height - y, window.height);
+  const int32_t h2 = std::max(y - map.height + window.height, 0);
+  target.CopyRegion(map, window.x, window.y, x, y, w1, h1);
+  target.CopyRegion(map, window.x + w1, window.y, 0, y, w2, h1);
+  target.CopyRegion(map, window.x, window.y + h1, x, 0, w1, h2);
+  target.CopyRegion(map, window.x + w1, window.y + h1, 0, 0, w2, h2);
+}
+
+void DrawIfLoaded(BitmapClass& target, const ImageClass& image, Point at) {
+  if (image.valid) target.Draw(image, at.x, at.y);
+}
+
+void DrawBottomLayer(BitmapClass& target) {
+  Tile(target, doc.worldMap, doc.worldMapX, doc.worldMapY, kPicture);
+  target.DrawKeyed(doc.sideOverlay, 0, 0, kKeyColour);
+  if (doc.iconCount == 2) {
+    for (int i = 0; i < 2; ++i) DrawIfLoaded(target, doc.icons[i], kTwoIcons[i]);
+  } else {
+    for (int i = 0; i < 3; ++i) DrawIfLoaded(target, doc.icons[i], kThreeIcons[i]);
+  }
+  DrawIfLoaded(target, doc.screenshot, kScreenshot);
+}
+
+// Joins the left columns of the small target box to those of the large frame.
+void DrawFan(BitmapClass& target, int32_t fromY, int32_t toY,
+             const uint32_t (&colours)[kFanLines]) {
+  for (int32_t i = 0; i < kFanLines; ++i) {
+    target.DrawLine(doc.targetBoxX + i, fromY, kLargeFrame.x + i, toY, colours[i]);
+  }
+}
+
+void DrawItems(BitmapClass& target) {
+  const int32_t count = doc.items.Count();
+  for (int32_t i = 0; i < count; ++i) {
+    const ItemClass& item = doc.items.At(i);
+    target.DrawKeyed(item.image, item.x, item.y, kKeyColour);
+    if (item.selected) {
+      target.InvertFrame(item.x, item.y, item.image.width, item.image.height);
+    }
+  }
+}
+
+void DrawTopLayer(BitmapClass& target) {
+  target.Draw(doc.largeTargetBox, kLargeFrame.x, kLargeFrame.y);
+  Tile(target, doc.worldMap2x, doc.worldMap2xX, doc.worldMap2xY, kZoomWindow);
+  target.DrawKeyed(doc.smallTargetBox, doc.targetBoxX, doc.targetBoxY, kKeyColour);
+  DrawFan(target, doc.targetBoxY, kLargeFrame.y, kUpperFan);
+  // The lower fan ends 4 rows above the frame's bottom.
+  DrawFan(target, doc.targetBoxY + doc.smallTargetBox.height,
+          kLargeFrame.y + doc.largeTargetBox.height - 4, kLowerFan);
+  DrawItems(target);
+}
+
+}  // namespace
+
+void ComposeLoadScreen(BitmapClass* target) {
+  if (!target) return;
+  target->Fill(0);
+  if (doc.showBottomLayer) DrawBottomLayer(*target);
+  if (doc.showTopLayer) DrawTopLayer(*target);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "export/shp_files.h"
+
+// Where the palette of an export comes from.
+enum PaletteMode : int { kGeneratePalette = 0, kExistingPalette = 1 };
+
+struct ShpExport {
+  const char* shpPath;
+  int paletteMode;          // a PaletteMode
+  const char* palettePath;  // written when the palette is generated, read otherwise
+  int32_t colours;          // 1 to 256: pixels use only the palette's first entries
+};
+
+// How far an export has come: one call a step, 14 in all when nothing fails.
+enum class ExportStep { Composed, PaletteMade, RowsMapped, DataWritten };
+using ExportProgress = std::function<void(ExportStep)>;
+
+// Writes the picture as a sprite file and, when it is generated, its palette. Unused entries of a
+// generated palette are black in the file and no pixel's colour. Throws std::bad_alloc.
+FailedStep RunShpExport(const ShpExport& request, const ExportProgress& progress);

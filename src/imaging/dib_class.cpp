@@ -1,0 +1,114 @@
+#include "imaging/dib_class.h"
+
+#include "imaging/memory_dc.h"
+#include "imaging/surface_drawing.h"
+
+DIBClass::DIBClass(const DIBClass& other) : DIBClass() { *this = other; }
+
+DIBClass& DIBClass::operator=(const DIBClass& other) {
+  if (this == &other) return *this;
+  Free();
+  if (!other.valid || !Create(other.width, other.height)) return *this;
+  std::copy_n(other.bits, static_cast<size_t>(width) * static_cast<size_t>(height), bits);
+  return *this;
+}
+
+bool DIBClass::CreateFromPixels(const uint32_t* pixels, int32_t newWidth, int32_t newHeight) {
+  if (!Create(newWidth, newHeight)) return false;
+  for (int32_t y = 0; y < height; ++y) {
+    std::copy_n(pixels + static_cast<size_t>(y) * static_cast<size_t>(width), width, RowStart(y));
+  }
+  return true;
+}
+
+bool DIBClass::Create(int32_t newWidth, int32_t newHeight) {
+  width = newWidth;
+  height = newHeight;
+  BITMAPINFO description{};
+  description.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+  description.bmiHeader.biWidth = width;
+  description.bmiHeader.biHeight = height;  // positive: bottom-up
+  description.bmiHeader.biPlanes = 1;
+  description.bmiHeader.biBitCount = 32;
+  description.bmiHeader.biCompression = BI_RGB;
+  description.bmiHeader.biSizeImage = static_cast<DWORD>(width) * static_cast<DWORD>(height) * 4;
+  const WindowDc screen(nullptr);
+  void* pixels = nullptr;
+  bitmap = width > 0 && height > 0
+               ? CreateDIBSection(screen.get(), &description, DIB_RGB_COLORS, &pixels, nullptr, 0)
+               : nullptr;
+  bits = static_cast<uint32_t*>(pixels);
+  valid = bitmap != nullptr;
+  return valid != 0;
+}
+
+void DIBClass::Free() {
+  if (bitmap) DeleteObject(bitmap);
+  bitmap = nullptr;
+  bits = nullptr;
+  width = 0;
+  height = 0;
+  valid = 0;
+}
+
+int32_t DIBClass::RowBytes() const { return PixelBytes() * width; }
+
+int32_t DIBClass::PixelBytes() const {
+  BITMAP description{};
+  GetObjectA(bitmap, sizeof description, &description);
+  return description.bmBitsPixel / 8;
+}
+
+void DIBClass::PutPixel(int32_t x, int32_t y, uint32_t colour) {
+  if (Holds(x, y)) RowStart(y)[x] = colour;
+}
+
+uint32_t DIBClass::ReadPixel(int32_t x, int32_t y) const {
+  return Holds(x, y) ? RowStart(y)[x] : 0;
+}
+
+void DIBClass::DrawFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight,
+                         uint32_t colour) {
+  SurfaceDrawing::DrawFrame(*this, x, y, frameWidth, frameHeight, colour);
+}
+
+void DIBClass::InvertFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight) {
+  SurfaceDrawing::InvertFrame(*this, x, y, frameWidth, frameHeight);
+}
+
+void DIBClass::Fill(uint32_t colour) { SurfaceDrawing::Fill(*this, colour); }
+
+void DIBClass::CopyRegionKeyed(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx,
+                               int32_t sy, int32_t w, int32_t h, uint32_t key) {
+  SurfaceDrawing::CopyRegionKeyed(*this, source, dx, dy, sx, sy, w, h, key);
+}
+
+void DIBClass::DrawKeyed(const BitmapClass& source, int32_t x, int32_t y, uint32_t key) {
+  SurfaceDrawing::DrawKeyed(*this, source, x, y, key);
+}
+
+void DIBClass::CopyRegion(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx, int32_t sy,
+                          int32_t w, int32_t h) {
+  SurfaceDrawing::CopyRegion(*this, source, dx, dy, sx, sy, w, h);
+}
+
+void DIBClass::Draw(const BitmapClass& source, int32_t x, int32_t y) {
+  if (x < 0 || y < 0) return;
+  CopyRegion(source, x, y, 0, 0, std::min(width - x, source.width),
+             std::min(height - y, source.height));
+}
+
+void DIBClass::BlitTo(HDC target, int x, int y) const {
+  BlitRegionTo(target, x, y, 0, 0, width, height);
+}
+
+void DIBClass::BlitRegionTo(HDC target, int x, int y, int sx, int sy, int w, int h) const {
+  const MemoryDc memory(target, bitmap);
+  BitBlt(target, x, y, std::min(w, width - sx), std::min(h, height - sy), memory.get(), sx, sy,
+         SRCCOPY);
+}
+
+void DIBClass::StretchTo(HDC target, int x, int y, int w, int h) const {
+  const MemoryDc memory(target, bitmap);
+  StretchBlt(target, x, y, w, h, memory.get(), 0, 0, width, height, SRCCOPY);
+}

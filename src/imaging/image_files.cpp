@@ -1,0 +1,71 @@
+#include "imaging/image_files.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "imagelib/imagelib.h"
+#include "imaging/save_dialog.h"
+
+char imageFilter[256];
+
+namespace {
+
+// What the filter holds besides the pattern list, which stands in it twice, leaves this much.
+constexpr size_t kLongestPatterns = 109;
+
+size_t PixelCount(int32_t width, int32_t height) {
+  return static_cast<size_t>(width) * static_cast<size_t>(height);
+}
+
+}  // namespace
+
+void BuildImageFilter(const char* patterns, char (&filter)[256]) {
+  std::string list = patterns;
+  if (list.size() > kLongestPatterns) {
+    const size_t end = list.rfind(';', kLongestPatterns);
+    list.resize(end == std::string::npos ? 0 : end);
+  }
+  using namespace std::string_literals;
+  const std::string text = "Image files:(" + list + ")\0"s + list + "\0All files (*.*)\0*.*\0\0"s;
+  std::fill(std::begin(filter), std::end(filter), '\0');
+  std::copy(text.begin(), text.end(), filter);
+}
+
+bool InitImageFiles() {
+  if (!ImageInit()) return false;
+  BuildImageFilter(ImageOpenFilterStr(), imageFilter);
+  return true;
+}
+
+int LoadImageFile(const char* path, BitmapClass& surface) {
+  ImageSize size{};
+  if (!ImageGetSize(path, &size) || size.width <= 0 || size.height <= 0) return 0;
+  std::vector<uint32_t> buffer(PixelCount(size.width, size.height));
+  if (!ImageLoad(path, buffer.data())) return 0;
+  if (!surface.Create(size.width, size.height)) {
+    surface.Free();
+    return 0;
+  }
+  const uint32_t* from = buffer.data();
+  for (int32_t y = 0; y < size.height; ++y, from += size.width) {
+    std::copy_n(from, size.width, surface.Row(y));
+  }
+  return 1;
+}
+
+int SaveImageFile(const char* path, const BitmapClass& surface) {
+  if (!surface.valid) return 0;
+  std::vector<uint32_t> buffer;
+  buffer.reserve(PixelCount(surface.width, surface.height));
+  for (int32_t y = 0; y < surface.height; ++y) {
+    const uint32_t* row = surface.Row(y);
+    buffer.insert(buffer.end(), row, row + surface.width);
+  }
+  return ImageSave(path, buffer.data(), surface.width, surface.height);
+}
+
+int SaveImageFileAs(HWND owner, char (&path)[MAX_PATH], const BitmapClass& surface) {
+  if (!AskSaveName(owner, path, imageFilter, "bmp")) return 0;
+  return SaveImageFile(path, surface);
+}

@@ -1,0 +1,79 @@
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "platform/standin/controls.h"
+#include "platform/standin/window.h"
+
+using namespace standin;
+
+namespace {
+
+LRESULT CopyText(const Window& window, WPARAM size, LPARAM target) {
+  if (size == 0) return 0;
+  const size_t length = std::min(window.text.size(), static_cast<size_t>(size) - 1);
+  char* buffer = reinterpret_cast<char*>(target);
+  std::memcpy(buffer, window.text.data(), length);
+  buffer[length] = '\0';
+  return static_cast<LRESULT>(length);
+}
+
+LRESULT EraseBackground(const Window& window, WPARAM wParam) {
+  if (!window.windowClass->background) return 0;
+  const RECT client{0, 0, window.ClientWidth(), window.ClientHeight()};
+  FillRect(reinterpret_cast<HDC>(wParam), &client, window.windowClass->background);
+  return 1;
+}
+
+LRESULT SetIcon(Window& window, WPARAM which, LPARAM icon) {
+  HICON& kept = which == ICON_SMALL ? window.smallIcon : window.bigIcon;
+  return reinterpret_cast<LRESULT>(std::exchange(kept, reinterpret_cast<HICON>(icon)));
+}
+
+}  // namespace
+
+LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto window = FindWindowPtr(handle);
+  if (!window) return 0;
+  switch (message) {
+    case WM_NCCREATE:
+      return TRUE;
+    case WM_SETTEXT:
+      window->text = lParam ? reinterpret_cast<const char*>(lParam) : "";
+      return TRUE;
+    case WM_GETTEXT:
+      return CopyText(*window, wParam, lParam);
+    case WM_GETTEXTLENGTH:
+      return static_cast<LRESULT>(window->text.size());
+    case WM_PAINT: {
+      PAINTSTRUCT paint;
+      BeginPaint(handle, &paint);
+      EndPaint(handle, &paint);
+      return 0;
+    }
+    case WM_ERASEBKGND:
+      return EraseBackground(*window, wParam);
+    case WM_CLOSE:
+      DestroyWindow(handle);
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam)) SetFocus(handle);
+      return 0;
+    case WM_SETICON:
+      return SetIcon(*window, wParam, lParam);
+    case WM_GETICON:
+      return reinterpret_cast<LRESULT>(wParam == ICON_SMALL ? window->smallIcon : window->bigIcon);
+    default:
+      return 0;
+  }
+}
+
+LRESULT standin::DefaultControlProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto window = FindWindowPtr(control);
+  if (!window) return 0;
+  if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(window->font);
+  if (message != WM_SETFONT) return DefWindowProcA(control, message, wParam, lParam);
+  window->font = reinterpret_cast<HFONT>(wParam);
+  if (lParam) InvalidateRect(control, nullptr, TRUE);
+  return 0;
+}

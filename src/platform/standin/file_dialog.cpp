@@ -1,0 +1,237 @@
+#include <cstring>
+#include <string>
+
+#include "platform/standin/dialog.h"
+#include "platform/standin/failure.h"
+#include "platform/standin/testing.h"
+
+namespace standin {
+namespace {
+
+constexpr DWORD kKnownFlags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLEHOOK |
+                              OFN_ENABLETEMPLATE | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST |
+                              OFN_EXPLORER | OFN_ENABLESIZING;
+constexpr int kOwnHeight = 120;  // dialog units; an extension makes the dialog higher and wider
+constexpr int kOwnWidth = 280;
+
+DWORD extendedError = 0;
+
+struct FileDialog {
+  OPENFILENAMEA* request;
+  bool open;           // otherwise it saves
+  std::string folder;  // in which names without a folder are meant; ends in a backslash
+  HWND child = nullptr;
+};
+
+bool IsAbsolute(const std::string& path) {
+  return !path.empty() &&
+         (path[0] == '\\' || path[0] == '/' || (path.size() > 1 && path[1] == ':'));
+}
+
+std::string FolderPart(const std::string& path) {
+  const size_t end = path.find_last_of("\\/");
+  return end == std::string::npos ? "" : path.substr(0, end + 1);
+}
+
+bool IsFolder(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::string CurrentFolder() {
+  char path[MAX_PATH];
+  GetCurrentDirectoryA(MAX_PATH, path);
+  return path;
+}
+
+std::string WithBackslash(std::string folder) {
+  if (folder.empty() || folder.back() != '\\') folder += '\\';
+  return folder;
+}
+
+// Where the dialog opens: the proposed file's folder, else the one asked for, else the current one.
+std::string FirstFolder(const OPENFILENAMEA& request) {
+  const std::string proposed = FolderPart(request.lpstrFile);
+  if (!proposed.empty() && IsFolder(proposed)) return WithBackslash(proposed);
+  if (request.lpstrInitialDir && *request.lpstrInitialDir && IsFolder(request.lpstrInitialDir))
+    return WithBackslash(request.lpstrInitialDir);
+  return WithBackslash(CurrentFolder());
+}
+
+FileDialog& StateOfDialog(HWND dialog) {
+  return *reinterpret_cast<FileDialog*>(GetWindowLongPtrA(dialog, DWLP_USER));
+}
+
+std::string FullPath(HWND dialog) {
+  char name[MAX_PATH];
+  GetDlgItemTextA(dialog, cmb13, name, MAX_PATH);
+  return IsAbsolute(name) || !*name ? name : StateOfDialog(dialog).folder + name;
+}
+
+// What CDM_GETFILEPATH gives: without a name it is the folder.
+std::string SelectedPath(HWND dialog) {
+  const std::string path = FullPath(dialog);
+  const std::string& folder = StateOfDialog(dialog).folder;
+  return path.empty() ? folder.substr(0, folder.size() - 1) : path;
+}
+
+LRESULT NotifyChild(HWND dialog, UINT code) {
+  const FileDialog& state = StateOfDialog(dialog);
+  if (!state.child) return 0;
+  OFNOTIFYA notice{{dialog, 0, code}, state.request, nullptr};
+  return SendMessageA(state.child, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+}
+
+// The hook and its template make a child dialog that fills the dialog behind its own controls.
+void CreateChild(HWND dialog, FileDialog& state) {
+  const OPENFILENAMEA& request = *state.request;
+  if (!(request.Flags & OFN_ENABLETEMPLATE)) return;
+  const auto& dialogs = ProgramResources().dialogs;
+  const auto found = dialogs.find(ResourceNumber(request.lpTemplateName));
+  if (found == dialogs.end()) Unsupported("the file dialog's template is missing");
+  const auto hook = request.Flags & OFN_ENABLEHOOK ? request.lpfnHook : nullptr;
+  static LPOFNHOOKPROC currentHook;
+  currentHook = hook;
+  const DLGPROC proc = [](HWND child, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
+    return currentHook ? static_cast<INT_PTR>(currentHook(child, message, wParam, lParam)) : 0;
+  };
+  state.child = CreateDialogFromTemplate(found->second, dialog, proc,
+                                         reinterpret_cast<LPARAM>(state.request), false);
+  RECT client{};
+  GetClientRect(dialog, &client);
+  SetWindowPos(state.child, HWND_BOTTOM, 0, 0, client.right, client.bottom, SWP_NOACTIVATE);
+  ShowWindow(state.child, SW_SHOW);
+}
+
+void Initialise(HWND dialog, LPARAM param) {
+  SetWindowLongPtrA(dialog, DWLP_USER, param);
+  FileDialog& state = StateOfDialog(dialog);
+  state.folder = FirstFolder(*state.request);
+  const std::string proposed = state.request->lpstrFile;
+  SetDlgItemTextA(dialog, cmb13, proposed.substr(FolderPart(proposed).size()).c_str());
+  CreateChild(dialog, state);
+  NotifyChild(dialog, CDN_INITDONE);
+}
+
+void Refuse(HWND dialog, const std::string& path, const char* reason) {
+  char caption[MAX_PATH];
+  GetWindowTextA(dialog, caption, MAX_PATH);
+  MessageBoxA(dialog, (path + "\n" + reason).c_str(), caption, MB_OK | MB_ICONEXCLAMATION);
+}
+
+bool HasExtension(const std::string& path) {
+  return path.find('.', FolderPart(path).size()) != std::string::npos;
+}
+
+// The chosen file type's first pattern says which extension a name gets; for any file it is the
+// default one.
+std::string ExtensionOf(const OPENFILENAMEA& request) {
+  if (!request.lpstrDefExt) return "";
+  const char* filter = request.lpstrFilter;
+  for (DWORD i = 1; filter && *filter && i < request.nFilterIndex; ++i) {
+    filter += std::strlen(filter) + 1;
+    filter += std::strlen(filter) + 1;
+  }
+  if (filter && *filter) {
+    std::string pattern = filter + std::strlen(filter) + 1;
+    pattern = pattern.substr(0, pattern.find(';'));
+    const size_t dot = pattern.find_last_of('.');
+    if (dot != std::string::npos && pattern.find_first_of("*?", dot) == std::string::npos)
+      return pattern.substr(dot);
+  }
+  return std::string(".") + request.lpstrDefExt;
+}
+
+// Hands the name over. False when it does not fit into the caller's buffer.
+bool Deliver(OPENFILENAMEA& request, const std::string& path) {
+  if (path.size() >= request.nMaxFile) {
+    extendedError = FNERR_BUFFERTOOSMALL;
+    return false;
+  }
+  std::memcpy(request.lpstrFile, path.c_str(), path.size() + 1);
+  const size_t name = FolderPart(path).size();
+  const size_t dot = path.find_last_of('.');
+  request.nFileOffset = static_cast<WORD>(name);
+  request.nFileExtension =
+      static_cast<WORD>(dot == std::string::npos || dot < name ? path.size() : dot + 1);
+  if (!(request.Flags & OFN_NOCHANGEDIR)) SetCurrentDirectoryA(FolderPart(path).c_str());
+  return true;
+}
+
+void Accept(HWND dialog) {
+  FileDialog& state = StateOfDialog(dialog);
+  OPENFILENAMEA& request = *state.request;
+  std::string path = FullPath(dialog);
+  if (path.empty()) return;
+  if (IsFolder(path)) {
+    state.folder = WithBackslash(path);
+    SetDlgItemTextA(dialog, cmb13, "");
+    return;
+  }
+  if (!IsFolder(FolderPart(path))) return Refuse(dialog, path, "Path does not exist.");
+  if (!HasExtension(path)) path += ExtensionOf(request);
+  const bool exists = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+  if (state.open && (request.Flags & OFN_FILEMUSTEXIST) && !exists)
+    return Refuse(dialog, path, "File not found.\nCheck the file name and try again.");
+  if (NotifyChild(dialog, CDN_FILEOK) != 0) return;
+  EndDialog(dialog, Deliver(request, path));
+}
+
+INT_PTR FileDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_INITDIALOG:
+      Initialise(dialog, lParam);
+      return TRUE;
+    case WM_COMMAND:
+      if (LOWORD(wParam) == IDOK) Accept(dialog);
+      if (LOWORD(wParam) == IDCANCEL) EndDialog(dialog, FALSE);
+      return TRUE;
+    case CDM_SETCONTROLTEXT:
+      SetDlgItemTextA(dialog, static_cast<int>(wParam), reinterpret_cast<const char*>(lParam));
+      return TRUE;
+    case CDM_GETFILEPATH: {
+      const std::string path = SelectedPath(dialog);
+      if (path.size() < wParam) std::strcpy(reinterpret_cast<char*>(lParam), path.c_str());
+      SetWindowLongPtrA(dialog, DWLP_MSGRESULT, static_cast<LONG_PTR>(path.size() + 1));
+      return TRUE;
+    }
+    default:
+      return FALSE;
+  }
+}
+
+bool RunFileDialog(OPENFILENAMEA* request, bool open) {
+  extendedError = 0;
+  if (request->lStructSize != sizeof(OPENFILENAMEA) &&
+      request->lStructSize != OPENFILENAME_SIZE_VERSION_400A) {
+    extendedError = CDERR_STRUCTSIZE;
+    return false;
+  }
+  if (request->Flags & ~kKnownFlags) Unsupported("a file dialog flag that is not known here");
+  const auto visible = static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP);
+  DialogTemplate dialog;
+  dialog.style = DS_SETFONT | WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
+                 (request->Flags & OFN_ENABLESIZING ? WS_THICKFRAME : DS_MODALFRAME);
+  dialog.caption = request->lpstrTitle ? request->lpstrTitle : open ? "Open" : "Save As";
+  const bool extended = request->Flags & OFN_ENABLETEMPLATE;
+  dialog.width = kOwnWidth + (extended ? kOwnWidth : 0);
+  dialog.height = kOwnHeight + (extended ? kOwnHeight : 0);
+  dialog.fontSize = 8;
+  dialog.fontName = "MS Shell Dlg";
+  dialog.controls = {
+      {"Edit", "", cmb13, visible | WS_BORDER | ES_AUTOHSCROLL, 0, 60, 80, 150, 12},
+      {"Button", open ? "&Open" : "&Save", IDOK, visible | BS_DEFPUSHBUTTON, 0, 220, 80, 50, 14},
+      {"Button", "Cancel", IDCANCEL, visible | BS_PUSHBUTTON, 0, 220, 98, 50, 14}};
+  FileDialog state{request, open, ""};
+  return RunDialog(dialog, request->hwndOwner, FileDialogProc, reinterpret_cast<LPARAM>(&state)) ==
+         TRUE;
+}
+
+}  // namespace
+}  // namespace standin
+
+BOOL GetOpenFileNameA(LPOPENFILENAMEA request) { return standin::RunFileDialog(request, true); }
+
+BOOL GetSaveFileNameA(LPOPENFILENAMEA request) { return standin::RunFileDialog(request, false); }
+
+DWORD CommDlgExtendedError() { return standin::extendedError; }

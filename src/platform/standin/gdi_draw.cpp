@@ -1,0 +1,143 @@
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "platform/standin/failure.h"
+#include "platform/standin/gdi.h"
+
+namespace standin {
+namespace {
+
+// The part of the rectangle that lies inside the target and the clip.
+RECT Visible(const DeviceContext& dc, const Pixels& target, const RECT& rect) {
+  return {std::max({rect.left, dc.clip.left, LONG{0}}), std::max({rect.top, dc.clip.top, LONG{0}}),
+          std::min({rect.right, dc.clip.right, LONG{target.Width()}}),
+          std::min({rect.bottom, dc.clip.bottom, LONG{target.Height()}})};
+}
+
+// Where destination column or row `i` of `length` takes its pixel from: the nearest when the
+// picture grows, the last of those that fall together when it shrinks.
+int SourceOf(int i, int length, int sourceLength) {
+  const int64_t place = i;
+  if (length > sourceLength)
+    return static_cast<int>(((2 * place + 1) * sourceLength - 1) / (2 * length));
+  return static_cast<int>((2 * (place + 1) * sourceLength + length) / (2 * length) - 1);
+}
+
+struct Block {
+  int x, y, width, height;
+};
+
+bool Copy(HDC dc, const Block& to, HDC sourceDC, const Block& from) {
+  const auto context = FindDC(dc);
+  const auto sourceContext = FindDC(sourceDC);
+  Pixels* target = context ? TargetOf(*context) : nullptr;
+  Pixels* source = sourceContext ? TargetOf(*sourceContext) : nullptr;
+  if (!target || !source) return false;
+  if (to.width < 0 || to.height < 0 || from.width < 0 || from.height < 0)
+    Unsupported("pictures are not mirrored");
+  // A copy within one picture reads what stood there before.
+  Pixels before = target == source ? *source : Pixels(0, 0, false);
+  if (target == source) source = &before;
+  const RECT shown = Visible(*context, *target, {to.x, to.y, to.x + to.width, to.y + to.height});
+  const bool stretches = to.width != from.width;
+  for (int y = shown.top; y < shown.bottom; ++y) {
+    const int sourceY = from.y + SourceOf(y - to.y, to.height, from.height);
+    if (sourceY < 0 || sourceY >= source->Height()) continue;
+    const uint32_t* in = source->Row(sourceY);
+    uint32_t* out = target->Row(y);
+    for (int x = shown.left; x < shown.right; ++x) {
+      const int place = x - to.x;
+      const int sourceX = from.x + (stretches ? SourceOf(place, to.width, from.width) : place);
+      if (sourceX >= 0 && sourceX < source->Width()) out[x] = in[sourceX];
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+uint32_t PixelOf(COLORREF colour) {
+  return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+}
+
+COLORREF ColourOf(uint32_t pixel) { return PixelOf(pixel); }
+
+}  // namespace standin
+
+using namespace standin;
+
+BOOL BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
+            DWORD operation) {
+  if (operation != SRCCOPY) Unsupported("BitBlt knows SRCCOPY only");
+  return Copy(dc, {x, y, width, height}, source, {sourceX, sourceY, width, height});
+}
+
+BOOL StretchBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
+                int sourceWidth, int sourceHeight, DWORD operation) {
+  if (operation != SRCCOPY) Unsupported("StretchBlt knows SRCCOPY only");
+  const auto context = FindDC(dc);
+  const bool stretches = width != sourceWidth || height != sourceHeight;
+  if (context && stretches && context->stretchMode != COLORONCOLOR)
+    Unsupported("StretchBlt stretches in the mode COLORONCOLOR only");
+  return Copy(dc, {x, y, width, height}, source, {sourceX, sourceY, sourceWidth, sourceHeight});
+}
+
+int SetStretchBltMode(HDC dc, int mode) {
+  const auto context = FindDC(dc);
+  return context ? std::exchange(context->stretchMode, mode) : 0;
+}
+
+COLORREF GetPixel(HDC dc, int x, int y) {
+  const auto context = FindDC(dc);
+  Pixels* target = context ? TargetOf(*context) : nullptr;
+  if (!target || !target->Contains(x, y)) return CLR_INVALID;
+  return ColourOf(target->At(x, y));
+}
+
+COLORREF SetPixel(HDC dc, int x, int y, COLORREF colour) {
+  const auto context = FindDC(dc);
+  Pixels* target = context ? TargetOf(*context) : nullptr;
+  if (!target || !target->Contains(x, y)) return CLR_INVALID;
+  target->At(x, y) = PixelOf(colour);
+  return colour;
+}
+
+int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
+  const auto context = FindDC(dc);
+  Pixels* target = context ? TargetOf(*context) : nullptr;
+  if (!target) return 0;
+  const uint32_t pixel = PixelOf(BrushColour(brush));
+  const RECT shown = Visible(*context, *target, *rect);
+  for (int y = shown.top; y < shown.bottom && shown.left < shown.right; ++y)
+    std::fill(target->Row(y) + shown.left, target->Row(y) + shown.right, pixel);
+  return 1;
+}
+
+int GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info,
+              UINT usage) {
+  const BITMAPINFOHEADER& header = info->bmiHeader;
+  const auto found = FindGdi<Bitmap>(bitmap);
+  if (!FindDC(dc) || !found) return 0;
+  Pixels& pixels = found->pixels;
+  if (!bits || start || usage != DIB_RGB_COLORS || header.biBitCount != 32 ||
+      header.biCompression != BI_RGB || header.biWidth != pixels.Width() ||
+      std::abs(header.biHeight) != pixels.Height() || lines < static_cast<UINT>(pixels.Height()))
+    Unsupported("GetDIBits gives whole pictures of 32 bits only");
+  auto* out = static_cast<uint32_t*>(bits);
+  for (int row = 0; row < pixels.Height(); ++row) {
+    const int y = header.biHeight < 0 ? row : pixels.Height() - 1 - row;
+    for (int x = 0; x < pixels.Width(); ++x) *out++ = pixels.At(x, y);
+  }
+  return pixels.Height();
+}
+
+COLORREF SetTextColor(HDC dc, COLORREF colour) {
+  const auto context = FindDC(dc);
+  return context ? std::exchange(context->textColour, colour) : CLR_INVALID;
+}
+
+int SetBkMode(HDC dc, int mode) {
+  const auto context = FindDC(dc);
+  return context ? std::exchange(context->backgroundMode, mode) : 0;
+}

@@ -1,0 +1,31 @@
+// What only the native tests may ask: state that Windows keeps to itself.
+#pragma once
+
+#include <string>
+
+#include "platform/win32.h"
+
+namespace standin {
+
+// Path separators and the file system's own form of a Win32 path: every backslash becomes a slash.
+std::string NativePath(const char* path);
+
+// What GetModuleFileNameA answers from now on. Without it, that is the running program's own path.
+void SetModuleFileName(const std::string& path);
+
+// The last ShellExecuteA: nothing is started, the call is only kept.
+struct ShellRequest {
+  int count = 0;
+  HWND window = nullptr;
+  std::string verb, file, parameters, directory;
+  int show = 0;
+};
+const ShellRequest& LastShellRequest();
+
+// How often MessageBeep has sounded.
+int BeepCount();
+
+// Bitmaps, fonts and device contexts that exist now: a test holds the number before against after.
+size_t LiveGdiObjects();
+
+}  // namespace standin

@@ -1,0 +1,98 @@
+#pragma once
+
+// Identifiers shared by corvanta.rc and the sources. Only #defines: the resource compiler reads
+// this file too.
+
+// Resources.
+#define IDR_MAIN_MENU 101
+#define IDD_ABOUT 103
+#define IDD_LOAD_SCREEN_SETTINGS 104
+#define IDD_ADD_ITEM 105
+#define IDD_SELECT_ITEM 106
+#define IDD_SHP_OPTIONS 107
+#define IDD_OPEN_PREVIEW 108
+#define IDD_CROP_IMAGE 109
+#define IDD_SCREENSHOT_SETTINGS 112
+#define IDI_CORVANTA 107
+
+// Menu commands.
+#define IDM_EXIT 40003
+#define IDM_SAVE_AS_IMAGE 40004
+#define IDM_ABOUT 40013
+#define IDM_VIEW_TOP_LAYER 40020
+#define IDM_VIEW_BOTTOM_LAYER 40021
+#define IDM_ADD_ITEM 40023
+#define IDM_SELECT_ITEM 40025
+#define IDM_UNSELECT_ITEM 40028
+#define IDM_DELETE_ITEM 40029
+#define IDM_LOAD_SCREEN_SETTINGS 40030
+#define IDM_MOVE_SMALL_MAP 40034
+#define IDM_MOVE_LARGE_MAP 40035
+#define IDM_MOVE_TARGET_BOX 40036
+#define IDM_HELP 40037
+#define IDM_SAVE_AS_SHP 40038
+#define IDM_COPY 40041
+#define IDM_SCREENSHOT_SETTINGS 40043
+#define IDM_STATUS_BAR 40045
+
+// About box.
+#define IDC_ABOUT_README 1001
+#define IDC_ABOUT_TITLE 1002
+#define IDC_ABOUT_LINK 1003
+
+// Load screen settings.
+#define IDC_SETTINGS_PATH 1001
+#define IDC_SETTINGS_ICON1 1004
+#define IDC_SETTINGS_ICON2 1005
+#define IDC_SETTINGS_ICON3 1006
+#define IDC_SETTINGS_BROWSE 1007
+#define IDC_SETTINGS_TWO 1010
+#define IDC_SETTINGS_THREE 1011
+#define IDC_SETTINGS_ALLIED 1012
+#define IDC_SETTINGS_SOVIET 1013
+#define IDC_SETTINGS_YURI 1014
+
+// Add new item.
+#define IDC_ADD_LIST 1008
+#define IDC_ADD_ALLIED 1010
+#define IDC_ADD_SOVIET 1011
+#define IDC_ADD_YURI 1012
+#define IDC_ADD_PREVIEW 1015
+
+// Select item.
+#define IDC_SELECT_LIST 1008
+
+// SHP save options.
+#define IDC_SHP_NAME 1001
+#define IDC_SHP_BROWSE 1007
+#define IDC_SHP_GENERATE 1010
+#define IDC_SHP_EXISTING 1011
+#define IDC_SHP_SHP16 1012
+#define IDC_SHP_PROGRESS 1017
+#define IDC_SHP_COLOURS 1018
+
+// Preview pane of the Open dialog. The placeholder's number is the one that the common dialogs
+// look for.
+#define IDC_OPEN_PREVIEW 1003
+#define IDC_OPEN_FRAME 1021
+#define IDC_OPEN_LABEL 1022
+#define IDC_OPEN_PLACEHOLDER 1119
+
+// Crop image.
+#define IDC_CROP_PATH 1001
+#define IDC_CROP_PREVIEW 1015
+#define IDC_CROP_X 1018
+#define IDC_CROP_HEIGHT 1023
+#define IDC_CROP_WIDTH 1024
+#define IDC_CROP_Y 1025
+#define IDC_CROP_X_ARROWS 1026
+#define IDC_CROP_Y_ARROWS 1027
+#define IDC_CROP_GROUP 1030
+
+// Screenshot settings.
+#define IDC_SHOT_PREVIEW 1015
+#define IDC_SHOT_RED 1023
+#define IDC_SHOT_GREEN 1024
+#define IDC_SHOT_BLUE 1025
+#define IDC_SHOT_GREYSCALE 1026
+#define IDC_SHOT_LIGHTNESS 1027

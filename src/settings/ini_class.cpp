@@ -1,0 +1,130 @@
+#include "settings/ini_class.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+#include "platform/win32.h"
+#include "settings/text_file.h"
+
+namespace {
+
+std::string_view TrimSpaces(std::string_view text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string_view WithoutComment(std::string_view line) { return line.substr(0, line.find(';')); }
+
+bool IsHeader(std::string_view line) {
+  return !line.empty() && line.front() == '[' && line.back() == ']';
+}
+
+bool EqualIgnoringCase(std::string_view text, std::string_view lowerCase) {
+  const auto same = [](char a, char lower) {
+    return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == lower;
+  };
+  return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(), same);
+}
+
+// How much of a value counts as a number or as yes and no.
+constexpr size_t kLongestWord = 79;
+
+}  // namespace
+
+const std::string* IniSection::Find(std::string_view key) const {
+  const auto found = std::find_if(pairs.begin(), pairs.end(),
+                                  [key](const auto& pair) { return pair.first == key; });
+  return found == pairs.end() ? nullptr : &found->second;
+}
+
+bool IniClass::SetFileName(const char* path) {
+  fileName = path;
+  hasName = fileName.size() < MAX_PATH;
+  if (!hasName) fileName.clear();
+  return hasName;
+}
+
+bool IniClass::Load() {
+  Clear();
+  std::string text;
+  if (!hasName || !ReadTextFile(fileName.c_str(), text)) return false;
+  LinePieces pieces(text, kLongestPiece);
+  for (std::string_view line; pieces.Next(line);) ParseLine(line);
+  return true;
+}
+
+void IniClass::ParseLine(std::string_view line) {
+  line = TrimSpaces(WithoutComment(line));
+  if (IsHeader(line)) {
+    const std::string_view name = TrimSpaces(line.substr(1, line.size() - 2));
+    sections.push_back({std::string(name.substr(0, kLongestSectionName)), {}});
+  }
+  // A header may hold an '=' and is a key line too then.
+  const size_t equals = line.find('=');
+  if (equals == std::string_view::npos || equals != line.rfind('=')) return;
+  if (equals == 0 || equals == line.size() - 1 || sections.empty()) return;
+  sections.back().pairs.emplace_back(line.substr(0, std::min(equals, kLongestKey)),
+                                     line.substr(equals + 1));
+}
+
+void IniClass::Reset() {
+  fileName.clear();
+  hasName = false;
+  Clear();
+}
+
+const IniSection* IniClass::FindSection(std::string_view section) const {
+  if (!hasName) return nullptr;
+  const auto found =
+      std::find_if(sections.begin(), sections.end(),
+                   [section](const IniSection& candidate) { return candidate.name == section; });
+  return found == sections.end() ? nullptr : &*found;
+}
+
+const std::string* IniClass::FindValue(std::string_view section, std::string_view key) const {
+  const IniSection* found = FindSection(section);
+  return found ? found->Find(key) : nullptr;
+}
+
+int IniClass::GetKeyCount(std::string_view section) const {
+  const IniSection* found = FindSection(section);
+  return found ? static_cast<int>(found->pairs.size()) : 0;
+}
+
+const char* IniClass::GetKeyName(std::string_view section, int index) const {
+  if (index < 0 || index >= GetKeyCount(section)) return nullptr;
+  return FindSection(section)->pairs[static_cast<size_t>(index)].first.c_str();
+}
+
+bool IniClass::GetString(std::string_view section, std::string_view key, char* output,
+                         int n) const {
+  const std::string* value = FindValue(section, key);
+  if (!value || n < 0) return false;
+  const size_t copied = value->copy(output, static_cast<size_t>(n));
+  std::fill(output + copied, output + n + 1, '\0');
+  return true;
+}
+
+bool IniClass::GetBool(std::string_view section, std::string_view key, bool whenMissing) const {
+  const std::string* value = FindValue(section, key);
+  if (!value) return whenMissing;
+  const std::string_view word = std::string_view(*value).substr(0, kLongestWord);
+  return EqualIgnoringCase(word, "yes") || EqualIgnoringCase(word, "true");
+}
+
+int IniClass::GetInt(std::string_view section, std::string_view key, int whenMissing) const {
+  const std::string* value = FindValue(section, key);
+  if (!value) return whenMissing;
+  const long long number = std::strtoll(value->substr(0, kLongestWord).c_str(), nullptr, 10);
+  return static_cast<int>(std::clamp<long long>(number, std::numeric_limits<int>::min(),
+                                                std::numeric_limits<int>::max()));
+}
+
+int IniClass::GetSectionCount() const { return hasName ? static_cast<int>(sections.size()) : 0; }
+
+const char* IniClass::GetSectionName(int index) const {
+  if (index < 0 || index >= GetSectionCount()) return nullptr;
+  return sections[static_cast<size_t>(index)].name.c_str();
+}

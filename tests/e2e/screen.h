@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "imaging/image_class.h"
+#include "platform/win32.h"
+
+// Copies a part of the screen, in screen coordinates.
+ImageClass CaptureScreen(const RECT& area);
+
+// The part of the screen that a window, or its client area, takes up.
+RECT WindowArea(HWND window);
+RECT ClientArea(HWND window);
+
+// The pixels of a bitmap, top bytes 0.
+ImageClass PixelsOf(HBITMAP bitmap);
+
+bool SamePixels(const ImageClass& a, const ImageClass& b);
+
+// The area once it has stopped changing: windows are painted after they appear.
+ImageClass CaptureSettled(const RECT& area);
+
+size_t CountColours(const ImageClass& picture);
+
+// Saves the settled area as screen-<name>.png among the results.
+void SaveScreen(const std::string& name, const RECT& area);
+
+// Saves the whole screen for a test that fails; returns the file's path.
+std::string SaveFailureScreen();

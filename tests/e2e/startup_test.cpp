@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "document/load_screen_doc.h"
+#include "e2e/dialogs.h"
+#include "e2e/editor.h"
+#include "e2e/input.h"
+#include "e2e/results.h"
+#include "e2e/screen.h"
+#include "e2e/wait.h"
+#include "support/case_name.h"
+#include "support/temp_folder.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char kCloseQuestion[] = "Do you want to close Corvanta now?\nAll data won't be saved!";
+
+// A copy of the editor that lacks one of its templates.
+void CopyEditorWithout(const std::string& name, const TempFolder& folder) {
+  for (const char* file : {"Corvanta.exe", "ImageLib.dll", "Settings.ini"}) {
+    fs::copy(fs::u8path(EditorFile(file)), fs::u8path(folder.Path(file)));
+  }
+  fs::copy(fs::u8path(EditorFile("Templates")), fs::u8path(folder.Path("Templates")));
+  fs::remove(fs::u8path(folder.Path("Templates\\" + name)));
+}
+
+struct MissingTemplate {
+  std::string name, file, caption, text;
+};
+
+class MissingTemplateTest : public testing::TestWithParam<MissingTemplate> {};
+
+}  // namespace
+
+TEST(CloseTest, AsksAndEndsOnlyOnYes) {
+  Editor editor;
+  editor.Start();
+  const ImageClass start = editor.ShownPicture();
+  editor.Menu("View", "View top layer");
+  WaitUntil("the top layer to go", [&] { return !SamePixels(editor.ShownPicture(), start); });
+  const ImageClass before = editor.ShownPicture();
+  editor.MenuWithKeys("File", "Exit");
+  AnswerBox(editor, "Corvanta", kCloseQuestion, IDNO, "close-question");
+  editor.Main().BringToFront();
+  EXPECT_TRUE(editor.IsRunning());
+  WaitUntil("the picture to stand as before",
+            [&] { return SamePixels(editor.ShownPicture(), before); });
+
+  {
+    const HeldKeys alt = {VK_MENU};
+    TapKey(VK_F4);
+  }
+  AnswerBox(editor, "Corvanta", kCloseQuestion, IDYES, "close-question");
+  EXPECT_EQ(editor.WaitForExit(), 0u);
+}
+
+TEST_P(MissingTemplateTest, IsToldAndEndsTheEditor) {
+  const MissingTemplate& missing = GetParam();
+  const TempFolder folder;
+  CopyEditorWithout(missing.file, folder);
+  Editor editor(folder.Path("Corvanta.exe"));
+  editor.Launch();
+  AnswerBox(editor, missing.caption, missing.text, IDOK, "missing-" + missing.name);
+  EXPECT_EQ(editor.WaitForExit(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AllTemplates, MissingTemplateTest,
+    testing::Values(MissingTemplate{"LargeTargetBox", "com_largetargetbox.png", "Corvanta",
+                                    "Error: Can't find com_largetargetbox.png file."},
+                    MissingTemplate{"SmallTargetBox", "com_smalltargetbox.png", "Corvanta",
+                                    "Error: Can't find com_smalltargetbox.png file."},
+                    MissingTemplate{"ZoomedMap", "com_worldmap2x.png", "Corvanta",
+                                    "Error: Can't find com_worldmap2x.PNG file."},
+                    MissingTemplate{"WorldMap", "all_worldmap.png", "Error", "Can't find file!"},
+                    MissingTemplate{"Overlay", "all_2icomain.png", "Error", "Can't find file!"}),
+    CaseName());

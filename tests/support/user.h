@@ -1,0 +1,97 @@
+// The test user: works the editor's windows the way a person does, while the editor's own modal
+// loops run. It is written with Win32 calls only and is the same code on both platforms.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "platform/win32.h"
+
+// A script of what the user does, played by a timer of this thread, so that it runs inside whatever
+// loop waits: a dialog's, a message box's, the main window's.
+//
+//   User user;
+//   user.When("Select item", [](HWND dialog) { Choose(dialog, 1008, 0); Press(dialog, IDCANCEL);
+//   }); user.Answer("Corvanta", "Nothing there!", MB_ICONEXCLAMATION, IDOK); OpenTheDialog();  //
+//   returns once the script has closed it
+//
+// Steps run in the order given, each one as soon as its window is there, visible and enabled, and
+// nothing else is to be done. A step may press a button that opens a further window: the next step
+// then runs inside it. When nothing happens for ten seconds of timer ticks, the test fails with the
+// windows that stand, and every loop is ended. The destructor fails the test for steps that never
+// ran.
+class User {
+ public:
+  User();
+  ~User();
+  User(const User&) = delete;
+  User& operator=(const User&) = delete;
+
+  // Does the action once a visible and enabled top-level window of this thread with that caption
+  // stands.
+  void When(const std::string& caption, std::function<void(HWND)> action);
+
+  // Expects a message box with exactly this text and icon (MB_ICONHAND, MB_ICONEXCLAMATION,
+  // MB_ICONQUESTION, or 0 for none) and presses the button (IDOK, IDYES, IDNO).
+  void Answer(const std::string& caption, const std::string& text, UINT icon, int button);
+
+  // Puts the path into the common file dialog with that caption and presses its OK button.
+  void ChooseFile(const std::string& caption, const std::string& path);
+
+  // Steps that have not run yet.
+  size_t StepsLeft() const;
+
+ private:
+  struct Script;
+  Script* script_;
+};
+
+// Everything below fails the test, and does nothing, when the control is missing, hidden or
+// disabled.
+
+// Clicks a button, check box or radio button.
+void Press(HWND dialog, int id);
+// Replaces an edit control's text by typing: the whole text is selected, then each character
+// arrives.
+void Type(HWND dialog, int id, const std::string& text);
+// Picks the entry at that position of a list box or drop-down list with the keyboard; its owner is
+// notified once.
+void Choose(HWND dialog, int id, int position);
+// Moves a trackbar to the position with the keyboard; its parent gets WM_HSCROLL.
+void Slide(HWND dialog, int id, int position);
+// Presses and releases a key in the window, or, when the window is or stands in a dialog, in that
+// dialog's keyboard handling first (Tab, Enter, Escape). Characters are Type's business.
+void PressKey(HWND window, int virtualKey);
+// Clicks the left button at a client position of the window.
+void Click(HWND window, int x, int y);
+// Shows a file dialog's extension (the child dialog of its hook) a newly selected file, as the
+// dialog does when the user picks one in its list.
+void SelectFile(HWND fileDialog, const std::string& path);
+
+// What the user sees.
+std::string Text(HWND dialog, int id);
+std::string Text(HWND window);
+bool IsEnabled(HWND dialog, int id);
+bool IsVisible(HWND dialog, int id);
+bool IsChecked(HWND dialog, int id);
+// The lines of a list box or combo box, and the position selected (-1 for none).
+std::vector<std::string> Items(HWND dialog, int id);
+int Selected(HWND dialog, int id);
+
+// Handles what has been posted and paints what is invalid, without waiting for anything.
+void Settle();
+
+// Holds modifier keys down while it lives.
+class HoldKeys {
+ public:
+  HoldKeys(std::initializer_list<BYTE> keys) : HoldKeys(std::vector<BYTE>(keys)) {}
+  explicit HoldKeys(std::vector<BYTE> keys);
+  ~HoldKeys();
+  HoldKeys(const HoldKeys&) = delete;
+  HoldKeys& operator=(const HoldKeys&) = delete;
+
+ private:
+  std::vector<BYTE> keys_;
+};
