@@ -27,7 +27,7 @@ std::string Formatted(const Window& arrows, int value) {
   std::string text = std::to_string(value);
   if (arrows.style & UDS_NOTHOUSANDS) return text;
   const size_t digits = value < 0 ? 1 : 0;
-  for (size_t place = text.size(); place > digits + 3;) text.insert(place -= 3, ",");
+  for (size_t place = text.size(); place > digits + 3;) text.insert(place -= 3, 1, ',');
   return text;
 }
 
