@@ -26,6 +26,7 @@ class ChooseScreenshotTest : public EditorFixture {
   void SetUp() override {
     EditorFixture::SetUp();
     WriteSettings("[CameosList]\n");
+    SetLayers(0, 1);  // the frame would cover part of the screenshot
     // What must stay, or be replaced.
     doc.screenshot = PlainPicture(234, 232, 0x555555);
     std::strcpy(doc.screenshotPath, "before.png");

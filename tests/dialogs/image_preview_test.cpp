@@ -59,10 +59,10 @@ class ImagePreviewTest : public EditorFixture {
   }
   // Whether any text stands in rows from top to below bottom.
   bool HasText(int top, int bottom) {
-    for (int y = top; y < bottom; ++y) {
-      for (int x = 0; x < 200; ++x) {
-        if (WindowPixel(control, x, y) == 0) return true;
-      }
+    UpdateWindow(control);
+    const WindowDc dc(control);
+    for (int i = top * 200; i < bottom * 200; ++i) {
+      if (GetPixel(dc.get(), i % 200, i / 200) == 0) return true;
     }
     return false;
   }

@@ -53,6 +53,7 @@ TEST_F(LoadScreenSettingsTest, OpensWithTheDocumentsChoices) {
     EXPECT_FALSE(IsChecked(dialog, IDC_SETTINGS_ALLIED));
     EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_THREE));
     EXPECT_FALSE(IsChecked(dialog, IDC_SETTINGS_TWO));
+    EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_THREE), GetFocus());
     EXPECT_EQ(path, Text(dialog, IDC_SETTINGS_PATH));
   });
   EXPECT_EQ(Yuri, doc.side) << "opening and closing changes nothing";
@@ -164,8 +165,10 @@ TEST_F(LoadScreenSettingsTest, DialogWithoutSettingsStaysOpenAndEmpty) {
         EXPECT_FALSE(IsChecked(dialog, id)) << id;
       }
       EXPECT_EQ("", Text(dialog, IDC_SETTINGS_PATH));
+      EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_ICON1), GetFocus())
+          << "a radio button would be clicked by the focus";
     });
-    EXPECT_EQ(3, doc.iconCount) << "the button that has the focus first is not clicked";
+    EXPECT_EQ(3, doc.iconCount);
   }
 }
 

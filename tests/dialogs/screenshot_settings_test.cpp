@@ -13,6 +13,7 @@ class ScreenshotSettingsTest : public EditorFixture {
  protected:
   void SetUp() override {
     EditorFixture::SetUp();
+    SetLayers(0, 1);  // the frame would cover part of the screenshot
     doc.screenshot = PlainPicture(234, 232, 0x8040FF);
   }
 

@@ -125,7 +125,6 @@ ImageClass SavePicture(const Editor& editor, const std::string& name) {
   const std::string path = NewResultPath(name);
   editor.MenuWithKeys("File", "Save as...");
   SaveDialog(editor, "save-as").Save(path);
-  WaitUntil(path, [&] { return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; });
   return LoadPicture(path);
 }
 

@@ -74,7 +74,7 @@ std::string SamplePath(const std::string& name) { return FullPath(CORVANTA_SAMPL
 ImageClass LoadPicture(const std::string& path) {
   StartImageLibrary();
   ImageClass picture;
-  if (!LoadImageFile(path.c_str(), picture)) GiveUp("Can't load " + path);
+  WaitUntil(path + " to be readable", [&] { return LoadImageFile(path.c_str(), picture) == 1; });
   return picture;
 }
 

@@ -19,7 +19,7 @@ std::string NewResultPath(const std::string& name);
 // A file of the repository's template package.
 std::string SamplePath(const std::string& name);
 
-// Loads a picture; fails the test when it can't be read.
+// Loads a picture, as soon as whoever writes it has done so.
 ImageClass LoadPicture(const std::string& path);
 // Saves a picture among the results.
 void SaveResult(const std::string& name, const ImageClass& picture);

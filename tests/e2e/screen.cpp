@@ -17,6 +17,8 @@ constexpr DWORD kSettledMilliseconds = 60;
 LONG Width(const RECT& area) { return area.right - area.left; }
 LONG Height(const RECT& area) { return area.bottom - area.top; }
 
+RECT WholeScreen() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
 }  // namespace
 
 ImageClass PixelsOf(HBITMAP bitmap) {
@@ -42,7 +44,11 @@ ImageClass PixelsOf(HBITMAP bitmap) {
   return picture;
 }
 
-ImageClass CaptureScreen(const RECT& area) {
+ImageClass CaptureScreen(const RECT& wanted) {
+  // Nothing at all comes of an area that reaches beyond the screen.
+  RECT area{};
+  const RECT whole = WholeScreen();
+  IntersectRect(&area, &wanted, &whole);
   const WindowDc screen(nullptr);
   const HBITMAP bitmap = CreateCompatibleBitmap(screen.get(), Width(area), Height(area));
   {
@@ -103,7 +109,6 @@ void SaveScreen(const std::string& name, const RECT& area) {
 std::string SaveFailureScreen() {
   std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
   std::replace(name.begin(), name.end(), '/', '-');
-  const RECT all = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  SaveResult("failure-" + name + ".png", CaptureScreen(all));
+  SaveResult("failure-" + name + ".png", CaptureScreen(WholeScreen()));
   return ResultPath("failure-" + name + ".png");
 }

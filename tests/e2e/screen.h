@@ -5,8 +5,8 @@
 #include "imaging/image_class.h"
 #include "platform/win32.h"
 
-// Copies a part of the screen, in screen coordinates.
-ImageClass CaptureScreen(const RECT& area);
+// Copies an area, in screen coordinates, as far as it lies on the screen.
+ImageClass CaptureScreen(const RECT& wanted);
 
 // The part of the screen that a window, or its client area, takes up.
 RECT WindowArea(HWND window);

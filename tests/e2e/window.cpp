@@ -71,7 +71,16 @@ void Window::ClickAt(int id, POINT at) const {
 void Window::Type(int id, const std::string& text) const {
   Press(id);
   const Window edit = Control(id);
-  SendMessageA(edit.Handle(), EM_SETSEL, 0, -1);
+  // All of it by keys: a message would overtake the click, which may itself come late.
+  WaitUntil("the text to be selected that \"" + text + "\" replaces", [&edit] {
+    TapKey(VK_HOME);
+    {
+      const HeldKeys shift = {VK_SHIFT};
+      TapKey(VK_END);
+    }
+    const LRESULT selection = SendMessageA(edit.Handle(), EM_GETSEL, 0, 0);
+    return LOWORD(selection) == 0 && HIWORD(selection) == edit.Text().size();
+  });
   TypeText(text);
   WaitUntil("the typed text \"" + text + "\"", [&] { return edit.Text() == text; });
 }
