@@ -41,7 +41,7 @@ HGDIOBJ StockBitmap() {
   return bitmap;
 }
 
-HDC AddContext(std::shared_ptr<DeviceContext> context) {
+HDC AddContext(const std::shared_ptr<DeviceContext>& context) {
   context->fontHandle = StockFont();
   context->font = FindGdi<Font>(context->fontHandle);
   return Contexts().Add<HDC>(context);

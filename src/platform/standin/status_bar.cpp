@@ -65,8 +65,6 @@ LRESULT StatusBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   StatusBarState& state = StateOf<StatusBarState>(*bar);
   switch (message) {
     case WM_CREATE:
-      Place(*bar);
-      return 0;
     case WM_SIZE:
       // Its own placing comes back here and finds nothing to change.
       Place(*bar);

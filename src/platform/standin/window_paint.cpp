@@ -26,7 +26,7 @@ void InvalidateTree(Window& window, const RECT* rect, bool erase, bool allChildr
 
 WindowPtr FirstToPaint(const std::vector<HWND>& windows) {
   for (const HWND handle : windows) {
-    const auto window = FindWindowPtr(handle);
+    auto window = FindWindowPtr(handle);
     if (!window || !(window->style & WS_VISIBLE)) continue;
     if (!IsEmpty(window->update)) return window;
     if (auto below = FirstToPaint(window->children)) return below;
