@@ -23,5 +23,6 @@ need_packages() {
 build_packages=(cmake ninja-build g++-mingw-w64-x86-64 wine wine64)
 # The manual's compiler and the installer's.
 package_packages=(fp-utils nsis)
+artwork_packages=(python3-numpy python3-scipy python3-pil)
 native_packages=(g++ libpng-dev libjpeg-dev libgtest-dev libgmock-dev googletest)
 display_packages=(xvfb xauth openbox x11-utils)

@@ -23,6 +23,7 @@ void CopyToClipboard() {
 
   const WindowDc screen(nullptr);
   HBITMAP bitmap = CreateCompatibleBitmap(screen.get(), picture.width, picture.height);
+  if (!bitmap) return;
   {
     // A bitmap that is still selected into a device context can't change hands.
     const MemoryDc memory(screen.get(), bitmap);

@@ -1,6 +1,7 @@
 #include "export/shp_options.h"
 
 #include <cstring>
+#include <optional>
 
 #include "export/shp_export.h"
 #include "imaging/save_dialog.h"
@@ -17,11 +18,12 @@ constexpr char kPaletteFilter[] = "C&C PAL files(*.pal)\0*.pal\0All Files (*.*)\
 
 const char* shpPath = nullptr;  // of the open dialog
 bool exporting = false;
+std::optional<int> quitCode;  // of a request to end the editor that came during an export
 
 INT_PTR OnInitDialog(HWND dialog, LPARAM path) {
   shpPath = reinterpret_cast<const char*>(path);
-  CheckDlgButton(dialog, paletteMode == kExistingPalette ? IDC_SHP_EXISTING : IDC_SHP_GENERATE,
-                 BST_CHECKED);
+  CheckRadioButton(dialog, IDC_SHP_GENERATE, IDC_SHP_EXISTING,
+                   paletteMode == kExistingPalette ? IDC_SHP_EXISTING : IDC_SHP_GENERATE);
   SendDlgItemMessageA(dialog, IDC_SHP_COLOURS, EM_LIMITTEXT, 3, 0);
   SetDlgItemInt(dialog, IDC_SHP_COLOURS, kMostColours, FALSE);
   EnableWindow(GetDlgItem(dialog, IDOK), FALSE);
@@ -71,9 +73,16 @@ void KeepColoursInRange(HWND dialog) {
 void EmptyMessageQueue() {
   MSG message{};
   while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) quitCode = static_cast<int>(message.wParam);
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
+}
+
+// What ends the editor is for its own loop; before the export's end it would come back at once.
+void PassOnQuit() {
+  if (quitCode) PostQuitMessage(*quitCode);
+  quitCode.reset();
 }
 
 void DisableInputs(HWND dialog) {
@@ -100,6 +109,7 @@ void ExportShp(HWND dialog) {
   });
   if (failed) MessageBoxA(dialog, failed, "Error", MB_OK | MB_ICONERROR);
   exporting = false;
+  PassOnQuit();
   SendMessageA(dialog, WM_CLOSE, 0, 0);
 }
 

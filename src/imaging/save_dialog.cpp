@@ -1,7 +1,14 @@
 #include "imaging/save_dialog.h"
 
+#include <cstring>
+
 bool AskSaveName(HWND owner, char (&path)[MAX_PATH], const char* filter,
                  const char* defaultExtension) {
+  // The system does not even open the dialog for a proposal that no file can have.
+  const size_t length = std::strlen(path);
+  if (std::strpbrk(path, "*?\"<>|") || (length && std::strchr("\\/:", path[length - 1]))) {
+    path[0] = '\0';
+  }
   OPENFILENAMEA dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner;

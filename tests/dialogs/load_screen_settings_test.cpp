@@ -71,6 +71,21 @@ TEST_F(LoadScreenSettingsTest, SideTakesEffectAtOnce) {
   });
 }
 
+TEST_F(LoadScreenSettingsTest, ArrowKeysStayAmongTheRadioButtons) {
+  SetSide(Yuri);
+  SetIconCount(3);
+  Open([](HWND dialog) {
+    for (const int first : {IDC_SETTINGS_TWO, IDC_SETTINGS_ALLIED}) {
+      const int last = first == IDC_SETTINGS_TWO ? IDC_SETTINGS_THREE : IDC_SETTINGS_YURI;
+      SetFocus(GetDlgItem(dialog, last));
+      PressKey(GetFocus(), VK_DOWN);
+      EXPECT_EQ(GetDlgItem(dialog, first), GetFocus());
+      PressKey(GetFocus(), VK_UP);
+      EXPECT_EQ(GetDlgItem(dialog, last), GetFocus());
+    }
+  });
+}
+
 TEST_F(LoadScreenSettingsTest, IconCountEnablesTheThirdList) {
   Open([this](HWND dialog) {
     EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_TWO));

@@ -56,8 +56,11 @@ class CompositionTest : public EditorFixture {
     for (int32_t y = 0; y < kPictureHeight; ++y) {
       for (int32_t x = 0; x < kPictureWidth; ++x) {
         if (doc.showTopLayer && OnFan(x, y)) continue;
-        ASSERT_EQ(ExpectedPixel(x, y), dib.ReadPixel(x, y)) << name << ": " << x << ", " << y;
-        ASSERT_EQ(ExpectedPixel(x, y), image.ReadPixel(x, y)) << name << ": " << x << ", " << y;
+        const uint32_t expected = ExpectedPixel(x, y);
+        if (dib.ReadPixel(x, y) == expected && image.ReadPixel(x, y) == expected) continue;
+        FAIL() << name << ": " << std::hex << dib.ReadPixel(x, y) << " and "
+               << image.ReadPixel(x, y) << " instead of " << expected << std::dec << " at " << x
+               << ", " << y;
       }
     }
   }
@@ -249,7 +252,7 @@ TEST_P(OddTemplatesTest, EditorStaysInsideItsPictures) {
     Command(mode);
     for (const int key : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
       const HoldKeys fast({VK_CONTROL, VK_SHIFT});
-      for (int i = 0; i < 12; ++i) Key(key);
+      for (int i = 0; i < 3; ++i) Key(key);
     }
   }
   SetIconCount(3);

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/expectations.h"
+#include "e2e/expected.h"
 #include "e2e/input.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "e2e/wait.h"
 #include "resources/resource.h"
 
 namespace {
@@ -27,98 +26,50 @@ HWND Below(HWND parent, const std::string& className) {
   return search.second;
 }
 
-// The field for the file's name. Its id and what it lies in differ between the old and the new
-// file dialogs.
-HWND NameField(const Window& dialog) {
-  for (const int id : {cmb13, edt1}) {
-    const HWND control = GetDlgItem(dialog.Handle(), id);
-    if (!control || !IsWindowVisible(control)) continue;
-    const HWND inside = Below(control, "Edit");
-    return inside ? inside : control;
-  }
+// Fills in the name. The field's id, and what it lies in, differ between the old and the new file
+// dialogs, but it is the first edit control of both.
+void EnterName(const Window& dialog, const std::string& path) {
   const HWND field = Below(dialog.Handle(), "Edit");
   if (!field) GiveUp("The file dialog has no field for a name.");
-  return field;
-}
-
-void EnterName(const Window& dialog, const std::string& path) {
-  SendMessageA(NameField(dialog), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
-  EXPECT_EQ(Window(NameField(dialog)).Text(), path);
+  SendMessageA(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+  EXPECT_EQ(Window(field).Text(), path);
 }
 
 }  // namespace
 
-SaveDialog::SaveDialog(const Editor& editor, const std::string& screenName)
-    : dialog_(editor.Dialog("", screenName)) {}
-
 void SaveDialog::Save(const std::string& path) const {
   EnterName(dialog_, path);
-  dialog_.Press(IDOK);
-  dialog_.WaitUntilClosed();
+  dialog_.PressAndClose(IDOK);
 }
 
-OpenDialog::OpenDialog(const Editor& editor)
-    : dialog_(editor.Dialog("Choose file to open", "open-empty")) {}
-
-void OpenDialog::Select(const std::string& path) const {
-  EnterName(dialog_, path.substr(0, path.rfind('\\')));
-  dialog_.Press(IDOK);
-  WaitUntil("the folder's only file in the name field or the list", [this] {
-    const HWND list = Below(dialog_.Handle(), "SysListView32");
+void OpenPicture(const Editor& editor, const std::string& path) {
+  const Window dialog = editor.Dialog("Choose file to open", "open-empty");
+  EnterName(dialog, path.substr(0, path.rfind('\\')));
+  dialog.Press(IDOK);
+  HWND list = nullptr;
+  WaitUntil("the folder's only file in the list", [&] {
+    list = Below(dialog.Handle(), "SysListView32");
     return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 1;
   });
-  const HWND list = Below(dialog_.Handle(), "SysListView32");
-  const HWND pane = FindWindowExA(dialog_.Handle(), nullptr, "#32770", nullptr);
-  if (!pane) GiveUp("The Open dialog has no preview pane.");
-  const HWND preview = Window(pane).Control(IDC_OPEN_PREVIEW).Handle();
   // A click beside the only entry gives the list the keyboard.
   const RECT area = ClientArea(list);
   Click({area.right - 20, area.bottom - 20});
   TapKey(VK_HOME);
   TapKey(VK_SPACE);
+  const Window pane(FindWindowExA(dialog.Handle(), nullptr, "#32770", nullptr));
+  const HWND preview = pane.Control(IDC_OPEN_PREVIEW).Handle();
   WaitUntil("the preview of " + path,
             [&] { return CountColours(CaptureScreen(ClientArea(preview))) > 100; });
-  dialog_.Screenshot("open-preview");
-}
-
-void OpenDialog::Open() const {
-  dialog_.Press(IDOK);
-  dialog_.WaitUntilClosed();
-}
-
-ShpOptions::ShpOptions(const Editor& editor, const std::string& screenName)
-    : editor_(editor), dialog_(editor.Dialog("SHP save options", screenName)) {
-  EXPECT_FALSE(dialog_.IsEnabled(IDOK)) << "before a palette has a name";
-  EXPECT_EQ(dialog_.Text(IDC_SHP_COLOURS), "256");
-}
-
-void ShpOptions::TypePaletteName(const std::string& path) const {
-  dialog_.Type(IDC_SHP_NAME, path);
-}
-
-void ShpOptions::BrowsePaletteName(const std::string& path) const {
-  dialog_.Press(IDC_SHP_BROWSE);
-  WaitUntil("the palette's Save dialog", [this] { return !IsWindowEnabled(dialog_.Handle()); });
-  SaveDialog(editor_, "save-pal").Save(path);
-  WaitUntil("the chosen palette name", [&] { return dialog_.Text(IDC_SHP_NAME) == path; });
-}
-
-void ShpOptions::SetColours(int colours) const {
-  dialog_.Type(IDC_SHP_COLOURS, std::to_string(colours));
-}
-
-void ShpOptions::Export() const {
-  dialog_.Press(IDOK);
-  dialog_.WaitUntilClosed();
+  dialog.Screenshot("open-preview");
+  dialog.PressAndClose(IDOK);
 }
 
 void AnswerBox(const Editor& editor, const std::string& caption, const std::string& text,
                int button, const std::string& screenName) {
+  constexpr int kTextOfBox = 0xFFFF;
   const Window box = editor.Dialog(caption, screenName);
-  const HWND label = GetDlgItem(box.Handle(), 0xFFFF);
-  EXPECT_EQ(label ? Window(label).Text() : "", text) << "in the box \"" << caption << "\"";
-  box.Press(button);
-  box.WaitUntilClosed();
+  EXPECT_EQ(box.Text(kTextOfBox), text) << "in the box \"" << caption << "\"";
+  box.PressAndClose(button);
 }
 
 ImageClass SavePicture(const Editor& editor, const std::string& name) {
@@ -128,7 +79,23 @@ ImageClass SavePicture(const Editor& editor, const std::string& name) {
   return LoadPicture(path);
 }
 
-void ExpectShown(const Editor& editor, const ImageClass& picture, int boxY) {
-  WaitUntil("the view to show what was saved",
-            [&] { return SameOnScreen(editor.ShownPicture(), picture, boxY); });
+void ExportSprite(const Editor& editor, const std::string& name, const ImageClass& picture,
+                  int colours, PaletteName how) {
+  const std::string shp = NewResultPath(name + ".shp"), pal = NewResultPath(name + ".pal");
+  editor.Menu("File", "Save as SHP...");
+  SaveDialog(editor, "save-shp").Save(shp);
+  const Window options = editor.Dialog("SHP save options", "shp-options-" + name);
+  EXPECT_FALSE(options.IsEnabled(IDOK)) << "before the palette has a name";
+  EXPECT_EQ(options.Text(IDC_SHP_COLOURS), "256");
+  if (how == PaletteName::Typed) {
+    options.Type(IDC_SHP_NAME, pal);
+  } else {
+    options.Press(IDC_SHP_BROWSE);
+    WaitUntil("the palette's Save dialog", [&] { return !IsWindowEnabled(options.Handle()); });
+    SaveDialog(editor, "save-pal").Save(pal);
+    WaitUntil("the chosen name", [&] { return options.Text(IDC_SHP_NAME) == pal; });
+  }
+  if (colours != 256) options.Type(IDC_SHP_COLOURS, std::to_string(colours));
+  options.PressAndClose(IDOK);
+  ExpectSprite(shp, pal, picture, colours);
 }

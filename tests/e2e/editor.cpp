@@ -4,7 +4,6 @@
 #include "e2e/input.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "e2e/wait.h"
 #include "resources/resource.h"
 
 namespace {
@@ -145,7 +144,7 @@ void Editor::MenuWithKeys(const std::string& popup, const std::string& item) con
     return FindTopWindow({process_.dwProcessId, "#32768", ""}) != nullptr;
   });
   for (int i = 0; i < down; ++i) TapKey(VK_DOWN);
-  SaveScreen("menu-" + popup, WindowArea(mainWindow_));
+  Main().Screenshot("menu-" + popup);
   TapKey(VK_RETURN);
 }
 
@@ -175,24 +174,25 @@ void Editor::ClickPicture(POINT at) const {
   Click(OnScreen(at));
 }
 
-void Editor::DragPicture(POINT from, POINT to) const {
+bool Editor::ViewHasMouse() const {
+  GUITHREADINFO state{};
+  state.cbSize = sizeof state;
+  return GetGUIThreadInfo(GetWindowThreadProcessId(view_, nullptr), &state) &&
+         state.hwndCapture == view_;
+}
+
+void Editor::Grab(POINT from) const {
   Main().BringToFront();
   MoveMouse(OnScreen(from));
   MouseDown();
-  const DWORD thread = GetWindowThreadProcessId(view_, nullptr);
-  const auto viewHasMouse = [&] {
-    GUITHREADINFO state{};
-    state.cbSize = sizeof state;
-    return GetGUIThreadInfo(thread, &state) && state.hwndCapture == view_;
-  };
-  WaitUntil("the view to capture the mouse", viewHasMouse);
-  constexpr int kMoves = 10;
-  for (int i = 1; i <= kMoves; ++i) {
-    MoveMouse(
-        OnScreen({from.x + (to.x - from.x) * i / kMoves, from.y + (to.y - from.y) * i / kMoves}));
-  }
+  WaitUntil("the view to capture the mouse", [this] { return ViewHasMouse(); });
+}
+
+void Editor::DragTo(POINT to) const { MoveMouse(OnScreen(to)); }
+
+void Editor::Drop() const {
   MouseUp();
-  WaitUntil("the view to release the mouse", [&] { return !viewHasMouse(); });
+  WaitUntil("the view to release the mouse", [this] { return !ViewHasMouse(); });
 }
 
 RECT Editor::PictureArea() const {
@@ -207,7 +207,7 @@ POINT Editor::OnScreen(POINT picture) const {
   return {area.left + picture.x, area.top + picture.y};
 }
 
-ImageClass Editor::ShownPicture() const { return CaptureSettled(PictureArea()); }
+ImageClass Editor::ShownPicture() const { return CaptureScreen(PictureArea()); }
 
 bool Editor::IsRunning() const {
   return process_.hProcess && WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;

@@ -34,7 +34,11 @@ class Editor {
   void Press(WORD key, std::initializer_list<WORD> held = {}) const;
   // The left button on the picture, in its own coordinates.
   void ClickPicture(POINT at) const;
-  void DragPicture(POINT from, POINT to) const;
+  // A drag. What it moves has to be seen at its place before Drop: the system may deliver the
+  // moves late.
+  void Grab(POINT from) const;
+  void DragTo(POINT to) const;
+  void Drop() const;
   // The picture as it stands on the screen, once it has stopped changing.
   ImageClass ShownPicture() const;
 
@@ -44,6 +48,7 @@ class Editor {
  private:
   POINT OnScreen(POINT picture) const;
   RECT PictureArea() const;
+  bool ViewHasMouse() const;
 
   std::string executable_;
   HMODULE resources_ = nullptr;  // of the executable: the menu that it really shows

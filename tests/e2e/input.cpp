@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "e2e/wait.h"
+#include "e2e/screen.h"
 
 namespace {
 
@@ -77,6 +77,15 @@ HeldKeys::~HeldKeys() {
 void MoveMouse(POINT to) {
   SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, OnScale(to.x, SM_CXSCREEN),
             OnScale(to.y, SM_CYSCREEN));
+  // The display's late answer to an earlier move may take the pointer back for a moment; a button
+  // released then is released beside what it pressed.
+  int settled = 0;
+  WaitUntil("the pointer to stay where it was moved", [&] {
+    POINT at{};
+    GetCursorPos(&at);
+    settled = at.x == to.x && at.y == to.y ? settled + 1 : 0;
+    return settled > 2;
+  });
 }
 
 void MouseDown() { SendMouse(MOUSEEVENTF_LEFTDOWN); }
@@ -97,8 +106,4 @@ void Click(POINT at) {
   MouseUp();
   lastPoint = at;
   lastTime = GetTickCount64();
-}
-
-POINT Middle(const RECT& area) {
-  return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }

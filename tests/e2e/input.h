@@ -35,4 +35,3 @@ void MouseUp();
 
 // A click that is never the second one of a double click.
 void Click(POINT at);
-POINT Middle(const RECT& area);

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "e2e/wait.h"
+#include "e2e/screen.h"
 #include "imagelib/imagelib.h"
 #include "imaging/image_files.h"
 #include "platform/win32.h"

@@ -4,67 +4,49 @@
 
 #include <algorithm>
 #include <set>
-#include <vector>
+#include <stdexcept>
 
 #include "e2e/results.h"
-#include "e2e/wait.h"
+#include "imaging/dib_class.h"
 #include "imaging/memory_dc.h"
 
 namespace {
 
-constexpr DWORD kSettledMilliseconds = 60;
+constexpr DWORD kPollMilliseconds = 10, kSettledMilliseconds = 60;
 
-LONG Width(const RECT& area) { return area.right - area.left; }
-LONG Height(const RECT& area) { return area.bottom - area.top; }
+BOOL CALLBACK AddWindow(HWND window, LPARAM list) {
+  char text[256] = "", className[64] = "";
+  GetWindowTextA(window, text, sizeof text);
+  GetClassNameA(window, className, sizeof className);
+  if (IsWindowVisible(window)) {
+    *reinterpret_cast<std::string*>(list) += "\n  \"" + std::string(text) + "\" (" + className +
+                                             (IsWindowEnabled(window) ? ")" : ", disabled)");
+  }
+  return TRUE;
+}
 
 RECT WholeScreen() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
 
 }  // namespace
 
-ImageClass PixelsOf(HBITMAP bitmap) {
-  BITMAP size{};
-  GetObjectA(bitmap, sizeof size, &size);
-  BITMAPINFO format{};
-  format.bmiHeader = {
-      sizeof(BITMAPINFOHEADER), size.bmWidth, -size.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  ImageClass picture;
-  picture.Create(size.bmWidth, size.bmHeight);
-  std::vector<uint32_t> pixels(static_cast<size_t>(size.bmWidth) *
-                               static_cast<size_t>(size.bmHeight));
-  const WindowDc screen(nullptr);
-  if (GetDIBits(screen.get(), bitmap, 0, static_cast<UINT>(size.bmHeight), pixels.data(), &format,
-                DIB_RGB_COLORS) != size.bmHeight) {
-    GiveUp("The pixels of a bitmap can't be read.");
-  }
-  const uint32_t* from = pixels.data();
-  for (int32_t y = 0; y < picture.height; ++y) {
-    uint32_t* row = picture.Row(y);
-    for (int32_t x = 0; x < picture.width; ++x) row[x] = *from++ & 0xFFFFFF;
-  }
-  return picture;
+void GiveUp(const std::string& why) {
+  std::string message = why + "\nWindows on the screen:";
+  EnumWindows(AddWindow, reinterpret_cast<LPARAM>(&message));
+  std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+  std::replace(name.begin(), name.end(), '/', '-');
+  name = "failure-" + name + ".png";
+  SaveResult(name, CopyPixels(WindowDc(nullptr).get(), WholeScreen()));
+  throw std::runtime_error(message + "\nThe screen: " + ResultPath(name));
 }
 
-ImageClass CaptureScreen(const RECT& wanted) {
-  // Nothing at all comes of an area that reaches beyond the screen.
-  RECT area{};
-  const RECT whole = WholeScreen();
-  IntersectRect(&area, &wanted, &whole);
-  const WindowDc screen(nullptr);
-  const HBITMAP bitmap = CreateCompatibleBitmap(screen.get(), Width(area), Height(area));
-  {
-    const MemoryDc memory(screen.get(), bitmap);
-    BitBlt(memory.get(), 0, 0, Width(area), Height(area), screen.get(), area.left, area.top,
-           SRCCOPY);
+void WaitUntil(const std::string& what, const std::function<bool()>& condition, int seconds) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(seconds) * 1000;
+  while (!condition()) {
+    if (GetTickCount64() > end) {
+      GiveUp("Waited " + std::to_string(seconds) + " seconds for " + what + ", in vain.");
+    }
+    Sleep(kPollMilliseconds);
   }
-  ImageClass picture = PixelsOf(bitmap);
-  DeleteObject(bitmap);
-  return picture;
-}
-
-RECT WindowArea(HWND window) {
-  RECT area{};
-  GetWindowRect(window, &area);
-  return area;
 }
 
 RECT ClientArea(HWND window) {
@@ -72,6 +54,42 @@ RECT ClientArea(HWND window) {
   GetClientRect(window, &area);
   MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
   return area;
+}
+
+ImageClass CopyPixels(HDC source, const RECT& area) {
+  DIBClass copy(area.right - area.left, area.bottom - area.top);
+  {
+    const MemoryDc memory(source, copy.bitmap);
+    BitBlt(memory.get(), 0, 0, copy.width, copy.height, source, area.left, area.top, SRCCOPY);
+    GdiFlush();
+  }
+  ImageClass picture;
+  picture.Create(copy.width, copy.height);
+  for (int32_t y = 0; y < copy.height; ++y) {
+    std::transform(copy.Row(y), copy.Row(y) + copy.width, picture.Row(y),
+                   [](uint32_t pixel) { return pixel & 0xFFFFFF; });
+  }
+  return picture;
+}
+
+ImageClass CaptureScreen(const RECT& area) {
+  // Nothing at all comes of an area that reaches beyond the screen.
+  RECT visible{};
+  const RECT whole = WholeScreen();
+  IntersectRect(&visible, &area, &whole);
+  const WindowDc screen(nullptr);
+  ImageClass last = CopyPixels(screen.get(), visible);
+  WaitUntil("the screen to stop changing", [&] {
+    Sleep(kSettledMilliseconds);
+    const ImageClass before = last;
+    last = CopyPixels(screen.get(), visible);
+    return SamePixels(last, before);
+  });
+  return last;
+}
+
+void SaveScreen(const std::string& name, const RECT& area) {
+  SaveResult("screen-" + name + ".png", CaptureScreen(area));
 }
 
 bool SamePixels(const ImageClass& a, const ImageClass& b) {
@@ -82,33 +100,10 @@ bool SamePixels(const ImageClass& a, const ImageClass& b) {
   return true;
 }
 
-ImageClass CaptureSettled(const RECT& area) {
-  ImageClass last = CaptureScreen(area);
-  WaitUntil("the screen to stop changing", [&] {
-    Sleep(kSettledMilliseconds);
-    ImageClass now = CaptureScreen(area);
-    const bool settled = SamePixels(now, last);
-    last = now;
-    return settled;
-  });
-  return last;
-}
-
 size_t CountColours(const ImageClass& picture) {
   std::set<uint32_t> colours;
   for (int32_t y = 0; y < picture.height; ++y) {
     colours.insert(picture.Row(y), picture.Row(y) + picture.width);
   }
   return colours.size();
-}
-
-void SaveScreen(const std::string& name, const RECT& area) {
-  SaveResult("screen-" + name + ".png", CaptureSettled(area));
-}
-
-std::string SaveFailureScreen() {
-  std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-  std::replace(name.begin(), name.end(), '/', '-');
-  SaveResult("failure-" + name + ".png", CaptureScreen(WholeScreen()));
-  return ResultPath("failure-" + name + ".png");
 }

@@ -1,29 +1,29 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "imaging/image_class.h"
 #include "platform/win32.h"
 
-// Copies an area, in screen coordinates, as far as it lies on the screen.
-ImageClass CaptureScreen(const RECT& wanted);
+// Looks again and again until the condition holds. When it does not within `seconds`, throws
+// std::runtime_error with what was waited for, the windows that stand on the screen and the name of
+// a picture of the screen, which fails the test.
+void WaitUntil(const std::string& what, const std::function<bool()>& condition, int seconds = 60);
 
-// The part of the screen that a window, or its client area, takes up.
-RECT WindowArea(HWND window);
+// Fails as WaitUntil does, at once.
+[[noreturn]] void GiveUp(const std::string& why);
+
+// The part of the screen that a window's client area takes up.
 RECT ClientArea(HWND window);
 
-// The pixels of a bitmap, top bytes 0.
-ImageClass PixelsOf(HBITMAP bitmap);
-
-bool SamePixels(const ImageClass& a, const ImageClass& b);
-
-// The area once it has stopped changing: windows are painted after they appear.
-ImageClass CaptureSettled(const RECT& area);
-
-size_t CountColours(const ImageClass& picture);
-
-// Saves the settled area as screen-<name>.png among the results.
+// Copies an area of a device context, top bytes 0.
+ImageClass CopyPixels(HDC source, const RECT& area);
+// What stands in an area of the screen, as far as it lies on it, once it has stopped changing:
+// windows are painted after they appear.
+ImageClass CaptureScreen(const RECT& area);
+// Saves it as screen-<name>.png among the results.
 void SaveScreen(const std::string& name, const RECT& area);
 
-// Saves the whole screen for a test that fails; returns the file's path.
-std::string SaveFailureScreen();
+bool SamePixels(const ImageClass& a, const ImageClass& b);
+size_t CountColours(const ImageClass& picture);

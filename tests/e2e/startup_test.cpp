@@ -8,7 +8,7 @@
 #include "e2e/input.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "e2e/wait.h"
+#include "resources/resource.h"
 #include "support/case_name.h"
 #include "support/temp_folder.h"
 
@@ -55,6 +55,16 @@ TEST(CloseTest, AsksAndEndsOnlyOnYes) {
   }
   AnswerBox(editor, "Corvanta", kCloseQuestion, IDYES, "close-question");
   EXPECT_EQ(editor.WaitForExit(), 0u);
+}
+
+TEST(AboutTest, ShowsTheReadme) {
+  Editor editor;
+  editor.Start();
+  editor.Menu("Help", "About");
+  const Window about = editor.Dialog("About Corvanta", "about");
+  EXPECT_EQ(about.Text(IDC_ABOUT_TITLE), "Corvanta 1.1");
+  EXPECT_FALSE(about.Text(IDC_ABOUT_README).empty());
+  about.PressAndClose(IDCANCEL);
 }
 
 TEST_P(MissingTemplateTest, IsToldAndEndsTheEditor) {

@@ -2,7 +2,6 @@
 
 #include "e2e/input.h"
 #include "e2e/screen.h"
-#include "e2e/wait.h"
 
 namespace {
 
@@ -18,6 +17,16 @@ LRESULT Find(HWND list, const std::string& entry) {
       SendMessageA(list, message, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(entry.c_str()));
   if (position < 0) GiveUp("The list has no entry \"" + entry + "\".");
   return position;
+}
+
+// A click goes through the queue: keys, and questions by message, may otherwise overtake it.
+void WaitForClick(HWND control) {
+  WaitUntil("the clicked control to have the keyboard and to let go of the mouse", [control] {
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &state) &&
+           state.hwndFocus == control && !state.hwndCapture;
+  });
 }
 
 }  // namespace
@@ -93,6 +102,8 @@ void Window::Choose(int id, const std::string& entry) const {
   if (dropDown) {
     WaitUntil("the list to drop down",
               [&] { return SendMessageA(list, CB_GETDROPPEDSTATE, 0, 0) != 0; });
+  } else {
+    WaitForClick(list);
   }
   TapKey(VK_HOME);
   for (LRESULT i = 0; i < position; ++i) TapKey(VK_DOWN);
@@ -119,21 +130,26 @@ std::vector<std::string> Window::Lines(int id) const {
   return lines;
 }
 
-void Window::Slide(int id, WORD key, int times) const {
+int Window::Slide(int id, WORD key, int times) const {
+  const HWND slider = Control(id).Handle();
+  const auto position = [&] { return static_cast<int>(SendMessageA(slider, TBM_GETPOS, 0, 0)); };
   Press(id);
+  WaitForClick(slider);
   for (int i = 0; i < times; ++i) {
-    const LRESULT before = SliderPosition(id);
+    const int before = position();
     TapKey(key);
-    WaitUntil("the slider to move", [&] { return SliderPosition(id) != before; });
+    WaitUntil("the slider to move", [&] { return position() != before; });
   }
+  return position();
 }
 
-LRESULT Window::SliderPosition(int id) const {
-  return SendMessageA(Control(id).Handle(), TBM_GETPOS, 0, 0);
+void Window::Screenshot(const std::string& name) const {
+  RECT area{};
+  GetWindowRect(handle_, &area);
+  SaveScreen(name, area);
 }
 
-void Window::Screenshot(const std::string& name) const { SaveScreen(name, WindowArea(handle_)); }
-
-void Window::WaitUntilClosed() const {
+void Window::PressAndClose(int id) const {
+  Press(id);
   WaitUntil("a window to close", [this] { return !IsWindow(handle_); });
 }

@@ -23,6 +23,8 @@ class Window {
   void BringToFront() const;
   // Clicks the middle of a control, once it is enabled.
   void Press(int id) const;
+  // Presses a button that closes the window, and waits for that.
+  void PressAndClose(int id) const;
   // Clicks a control at a position in its client area.
   void ClickAt(int id, POINT at) const;
   // Replaces the text of an edit control by typing.
@@ -31,12 +33,10 @@ class Window {
   void Choose(int id, const std::string& entry) const;
   // The lines of a list box.
   std::vector<std::string> Lines(int id) const;
-  // Moves a trackbar with the keyboard, from its middle, by so many steps of its arrow keys.
-  void Slide(int id, WORD key, int times) const;
-  LRESULT SliderPosition(int id) const;
+  // Moves a trackbar by so many presses of a key, after a click on it; returns its position.
+  int Slide(int id, WORD key, int times) const;
 
   void Screenshot(const std::string& name) const;
-  void WaitUntilClosed() const;
 
  private:
   HWND handle_;

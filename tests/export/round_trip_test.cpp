@@ -83,8 +83,12 @@ class RoundTripTest : public EditorFixture {
     const ImageClass image = ThroughImage(), sprite = ThroughSprite();
     for (int32_t y = 0; y < 520; ++y) {
       for (int32_t x = 0; x < 800; ++x) {
-        ASSERT_EQ(expected.ReadPixel(x, y), image.ReadPixel(x, y)) << x << ", " << y;
-        ASSERT_EQ(expected.ReadPixel(x, y) & 0xFCFCFC, sprite.ReadPixel(x, y)) << x << ", " << y;
+        const uint32_t pixel = expected.ReadPixel(x, y);
+        if (image.ReadPixel(x, y) == pixel && sprite.ReadPixel(x, y) == (pixel & 0xFCFCFC)) {
+          continue;
+        }
+        FAIL() << std::hex << pixel << " came back as " << image.ReadPixel(x, y) << " and "
+               << sprite.ReadPixel(x, y) << std::dec << " at " << x << ", " << y;
       }
     }
   }

@@ -41,8 +41,8 @@ class ShpExportTest : public EditorFixture {
         const auto part = [pixel](int shift) {
           return static_cast<int32_t>(pixel >> shift & 0xFF);
         };
-        ASSERT_EQ(NearestColor(palette, part(16), part(8), part(0), n), indices[at])
-            << x << ", " << y;
+        if (NearestColor(palette, part(16), part(8), part(0), n) == indices[at]) continue;
+        FAIL() << "entry " << int{indices[at]} << " at " << x << ", " << y;
       }
     }
   }

@@ -202,6 +202,13 @@ TEST_F(ShpOptionsTest, FailureIsShownAndClosesTheDialog) {
   });
   EXPECT_EQ(416032U, Shp().size());
   EXPECT_EQ(nullptr, FindWindowA(nullptr, kCaption));
+  Look([this](HWND dialog) {
+    user.When("Save As", [](HWND file) {
+      EXPECT_EQ("", Text(file, cmb13)) << "a folder can't be proposed as a file";
+      Press(file, IDCANCEL);
+    });
+    Press(dialog, IDC_SHP_BROWSE);
+  });
 }
 
 // What has been posted before arrives while the pixels are being mapped.
@@ -226,6 +233,18 @@ TEST_F(ShpOptionsTest, NothingEndsOrRepeatsARunningExport) {
   EXPECT_EQ(768U, ReadContent(File("new.pal")).size());
   EXPECT_EQ(kGeneratePalette, paletteMode);
   EXPECT_EQ(nullptr, FindWindowA(nullptr, kCaption));
+}
+
+TEST_F(ShpOptionsTest, RequestToEndTheEditorOutlivesTheExport) {
+  Open([this](HWND dialog) {
+    Type(dialog, IDC_SHP_NAME, AppPath("new.pal"));
+    PostQuitMessage(7);
+    Press(dialog, IDOK);
+  });
+  EXPECT_EQ(416032U, Shp().size());
+  MSG message{};
+  ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(7U, message.wParam);
 }
 
 TEST_F(ShpOptionsTest, CloseBoxEscapeAndACancelledNameWriteNothing) {

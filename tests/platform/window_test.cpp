@@ -173,6 +173,17 @@ TEST(Windows, AreVisibleOnlyWithTheirParents) {
   EXPECT_FALSE(IsWindowVisible(child));
 }
 
+TEST(Windows, FadingShowsAndHidesThem) {
+  MessageLog log({});
+  const HWND window = log.Create("1", WS_POPUP, 0, 0, 50, 50);
+  EXPECT_TRUE(AnimateWindow(window, 20, AW_BLEND));
+  EXPECT_TRUE(IsWindowVisible(window));
+  EXPECT_FALSE(AnimateWindow(window, 20, AW_BLEND));
+  EXPECT_TRUE(AnimateWindow(window, 20, AW_BLEND | AW_HIDE));
+  EXPECT_FALSE(IsWindowVisible(window));
+  EXPECT_FALSE(AnimateWindow(window, 20, AW_BLEND | AW_HIDE));
+}
+
 TEST(Windows, EnablingTellsWhatWas) {
   MessageLog log({WM_ENABLE});
   const HWND window = log.Create("1", kPlainPopup, 0, 0, 10, 10);

@@ -9,11 +9,13 @@ from pathlib import Path
 
 import numpy as np
 from PIL import Image
+from scipy import ndimage
 
 from .canvas import (BOX_SIZE, FRAME_AT, FRAME_SIZE, ICON, ICONS_AT, KEY, KEY_DISTANCE, MAP_SIZE, SCREEN, SHOT, SHOT_AT, SIDE_INK,
                      SIDES, WINDOW_SIZE, ZOOM)
 
 WEIGHT = 12_000_000  # bytes of all pictures together
+SMALLEST_GAP = 100  # pixels of map that are seen as one piece through an overlay
 
 
 class Package:
@@ -64,6 +66,8 @@ def check_overlays(package):
             covered = np.argwhere(~box)
             seen = [p for p in covered if p[1] + left < SHOT_AT[0] - 16]
             package.expect(not seen, f"{name} covers the way of the target box")
+            holes = np.bincount(ndimage.label(clear)[0].flat)[1:]
+            package.expect(holes.min() >= SMALLEST_GAP, f"{name} lets the map show through a hole of {holes.min()} pixels")
             package.expect(clear.mean() > 0.5, f"{name} hides more than half of the map")
             for (x, y), (w, h) in [(at, ICON) for at in ICONS_AT[count]] + [(SHOT_AT, SHOT)]:
                 package.expect(not clear[y - 1 : y + h + 1, x - 1 : x + w + 1].any(), f"{name} lets the map show at {x}, {y}")

@@ -159,6 +159,9 @@ def _screen(bench, look):
     bench.shadow(outline(x - 14, y - 12, w + 26, h + 24, 12, look.corner), 8, 0.6)
     tab = [(642, 256), (654, 236), (776, 236), (790, 256)]
     bench.plate(polygon(tab), look.deep, 3)
+    # Behind the monitor's corners: no gap between it and its neighbours lets the map show.
+    for left, top, width, height in ((x + w, y - 11, 11, 12), (x + w, y + h - 12, 11, 19), (x - 14, y + h - 12, 13, 19)):
+        bench.plate(lambda c: c.rectangle(left, top, width, height) or c.fill(), look.deep, 1, outline=False)
     bench.plate(outline(x - 14, y - 14, w + 28, h + 26, 12, look.corner), look.base, 5)
     bench.plate(outline(x - 6, y - 6, w + 12, h + 12, 5, look.corner), look.trim, 3)
     bench.plate(lambda c: c.rectangle(x - 2, y - 2, w + 4, h + 4) or c.fill(), Paint("0c0e10"), 2, sunken=True, outline=False)
@@ -175,7 +178,7 @@ def _screen(bench, look):
     bench.rgb[y : y + h, x : x + w] += (noise / noise.std() * 3)[..., None]
     bench.text("NO SIGNAL", middle[0], middle[1] + 36, look.ink, spacing=3)
     _corners(bench, look, x + 8, y + 8, w - 16, h - 16, 16)
-    _studs(bench, look, [(x - 9.5, y + h - 30), (x - 9.5, y + h + 3), (x + w + 9.5, y + 2), (x + w + 9.5, y + h + 3), (x + w + 9.5, y + h // 2), (x + w // 2, y + h + 9)])
+    _studs(bench, look, [(x - 9.5, y + h - 30), (x - 9.5, y + h - 6), (x + w + 9.5, y + 2), (x + w + 9.5, y + h - 6), (x + w + 9.5, y + h // 2), (x + w // 2, y + h + 9)])
 
 
 def _badge(bench, look):

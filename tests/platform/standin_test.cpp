@@ -1,8 +1,10 @@
-// The stand-in's reader of resource scripts; on Windows the resource compiler has that part.
+// What the stand-in has to itself: its reader of resource scripts, its stops, its answers to tests.
 #ifndef _WIN32
 #include <gtest/gtest.h>
 
+#include "platform/message_log.h"
 #include "platform/standin/resources.h"
+#include "platform/standin/testing.h"
 
 namespace {
 
@@ -68,6 +70,58 @@ TEST(ResourceReader, StopsAtAWordThatItDoesNotKnow) {
       {"1 ICON a.ico", "\"a\""},
   };
   for (const auto& row : cases) EXPECT_DEATH(ReadResources(row.script), row.message) << row.script;
+}
+
+TEST(StandIn, StopsWhereItWouldWaitForEver) {
+  MSG message{};
+  EXPECT_DEATH(GetMessageA(&message, nullptr, 0, 0), "would wait for ever");
+}
+
+TEST(StandIn, StopsAtAWindowThatIsNeverValidated) {
+  MessageLog log({});
+  log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
+  log.paints = false;
+  const auto loop = [] {
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0)) DispatchMessageA(&message);
+  };
+  EXPECT_DEATH(loop(), "LogWindow never validates");
+}
+
+TEST(StandIn, StopsAtWhatItDoesNotCover) {
+  const HDC dc = CreateCompatibleDC(nullptr);
+  EXPECT_DEATH(BitBlt(dc, 0, 0, 1, 1, dc, 0, 0, 1), "SRCCOPY only");
+  EXPECT_DEATH(StretchBlt(dc, 0, 0, 2, 2, dc, 0, 0, 1, 1, SRCCOPY), "COLORONCOLOR only");
+  EXPECT_DEATH(LoadIconA(nullptr, "name"), "numbers, not names: name");
+  EXPECT_DEATH(ShowWindow(CreateWindowExA(0, "Static", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                                          nullptr, nullptr),
+                          99),
+               "ShowWindow command 99");
+  DeleteDC(dc);
+}
+
+TEST(StandIn, KeepsWhatItIsAskedToStart) {
+  const int before = standin::LastShellRequest().count;
+  EXPECT_GT(reinterpret_cast<INT_PTR>(
+                ShellExecuteA(nullptr, nullptr, "a.chm", nullptr, nullptr, SW_SHOW)),
+            32);
+  EXPECT_EQ(standin::LastShellRequest().count, before + 1);
+  EXPECT_EQ(standin::LastShellRequest().file, "a.chm");
+  EXPECT_EQ(standin::LastShellRequest().verb, "");
+  EXPECT_EQ(standin::LastShellRequest().show, SW_SHOW);
+}
+
+TEST(StandIn, CountsBeepsAndGdiObjects) {
+  const int beeps = standin::BeepCount();
+  MessageBeep(MB_ICONEXCLAMATION);
+  EXPECT_EQ(standin::BeepCount(), beeps + 1);
+  const size_t objects = standin::LiveGdiObjects();
+  const HDC screen = GetDC(nullptr);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, 2, 2);
+  EXPECT_EQ(standin::LiveGdiObjects(), objects + 2);
+  ReleaseDC(nullptr, screen);
+  DeleteObject(bitmap);
+  EXPECT_EQ(standin::LiveGdiObjects(), objects);
 }
 
 }  // namespace
