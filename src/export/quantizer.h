@@ -38,8 +38,6 @@ class QuantizerClass {
   // the picture has.
   uint32_t EntryCount() const;
 
-  uint32_t LeafCount() const { return leafCount; }
-
  private:
   void InsertColor(uint32_t red, uint32_t green, uint32_t blue);
   void MergeDeepest();

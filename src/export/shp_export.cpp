@@ -4,7 +4,6 @@
 
 #include "document/composition.h"
 #include "document/load_screen_doc.h"
-#include "export/palette_mapping.h"
 #include "export/quantizer.h"
 #include "imaging/image_class.h"
 
@@ -19,10 +18,7 @@ int32_t GeneratePalette(const ImageClass& picture, int32_t colours, ShpPalette& 
   quantizer.AddSurface(picture);
   uint32_t table[kPaletteEntries] = {};
   quantizer.FillPalette(table);
-  for (int32_t i = 0; i < kPaletteEntries; ++i) {
-    palette.entries[i] = {static_cast<uint8_t>(table[i] >> 16), static_cast<uint8_t>(table[i] >> 8),
-                          static_cast<uint8_t>(table[i])};
-  }
+  palette = PaletteOf(table);
   return static_cast<int32_t>(quantizer.EntryCount());
 }
 

@@ -8,8 +8,9 @@ static_assert(sizeof(SHP2FILEHEADER) == 8 && sizeof(SHP2FRAMEINFO) == 24);
 
 namespace {
 
-constexpr SHP2FILEHEADER kHeader = {0, 800, 520, 1};
-constexpr SHP2FRAMEINFO kFrame = {0, 0, 800, 520, 0, 0, 0, sizeof kHeader + sizeof(SHP2FRAMEINFO)};
+constexpr SHP2FILEHEADER kHeader = {0, kPictureWidth, kPictureHeight, 1};
+constexpr SHP2FRAMEINFO kFrame = {
+    0, 0, kPictureWidth, kPictureHeight, 0, 0, 0, sizeof kHeader + sizeof(SHP2FRAMEINFO)};
 
 // Applies change(component) to every component of the palette.
 template <class Change>

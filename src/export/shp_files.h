@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "document/load_screen_doc.h"
 #include "export/shp_palette.h"
 #include "settings/file_class.h"
 
@@ -35,7 +36,7 @@ struct SHP2FRAMEINFO {
 };
 #pragma pack(pop)
 
-inline constexpr uint32_t kShpDataSize = 800 * 520;
+inline constexpr uint32_t kShpDataSize = kPictureWidth * kPictureHeight;
 
 // The result of a file operation: null when it succeeded, otherwise the message of the step that
 // failed. What was written up to then stays on disk.

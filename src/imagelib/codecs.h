@@ -8,6 +8,9 @@
 // What the library needs of the platform; one implementation a platform.
 namespace imagelib {
 
+// Of JPEG files, in hundredths: steps are hardly visible, files still small.
+inline constexpr int kJpegQuality = 95;
+
 // Ready the decoders and encoders; balanced by StopCodecs. False: nothing to stop.
 bool StartCodecs();
 void StopCodecs();

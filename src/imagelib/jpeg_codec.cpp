@@ -16,9 +16,6 @@
 namespace imagelib {
 namespace {
 
-// Highest common quality: steps are hardly visible, files still small.
-constexpr int kQuality = 95;
-
 struct ErrorHandler {
   jpeg_error_mgr base;  // First: libjpeg hands back a pointer to it.
   std::jmp_buf leave;
@@ -159,7 +156,7 @@ bool EncodeJpeg(const std::uint32_t* pixels, std::int32_t width, std::int32_t he
   jpeg.input_components = 4;
   jpeg.in_color_space = JCS_EXT_BGRX;
   jpeg_set_defaults(&jpeg);
-  jpeg_set_quality(&jpeg, kQuality, TRUE);
+  jpeg_set_quality(&jpeg, kJpegQuality, TRUE);
   // Full resolution of the colours: the default halves it, which frays thin coloured lines.
   jpeg.comp_info[0].h_samp_factor = 1;
   jpeg.comp_info[0].v_samp_factor = 1;

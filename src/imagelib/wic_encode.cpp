@@ -5,9 +5,6 @@
 namespace imagelib {
 namespace {
 
-// Highest common quality: steps are hardly visible, files still small.
-constexpr float kJpegQuality = 0.95F;
-
 FileType EncodableType(FileType type) {
   const bool encodable =
       type == FileType::kPng || type == FileType::kJpeg || type == FileType::kTiff;
@@ -23,7 +20,7 @@ bool SetOption(IPropertyBag2* options, const wchar_t* name, VARIANT* value) {
 bool SetJpegOptions(IPropertyBag2* options) {
   VARIANT quality{};
   quality.vt = VT_R4;
-  quality.fltVal = kJpegQuality;
+  quality.fltVal = kJpegQuality / 100.0F;
   if (!SetOption(options, L"ImageQuality", &quality)) return false;
   // Full resolution of the colours: the default halves it, which frays thin coloured lines. An
   // encoder without this option still writes a good picture.

@@ -1,7 +1,6 @@
 #include "imaging/dib_class.h"
 
 #include "imaging/memory_dc.h"
-#include "imaging/surface_drawing.h"
 
 DIBClass::DIBClass(const DIBClass& other) : DIBClass() { *this = other; }
 
@@ -11,14 +10,6 @@ DIBClass& DIBClass::operator=(const DIBClass& other) {
   if (!other.valid || !Create(other.width, other.height)) return *this;
   std::copy_n(other.bits, static_cast<size_t>(width) * static_cast<size_t>(height), bits);
   return *this;
-}
-
-bool DIBClass::CreateFromPixels(const uint32_t* pixels, int32_t newWidth, int32_t newHeight) {
-  if (!Create(newWidth, newHeight)) return false;
-  for (int32_t y = 0; y < height; ++y) {
-    std::copy_n(pixels + static_cast<size_t>(y) * static_cast<size_t>(width), width, RowStart(y));
-  }
-  return true;
 }
 
 bool DIBClass::Create(int32_t newWidth, int32_t newHeight) {
@@ -57,39 +48,6 @@ int32_t DIBClass::PixelBytes() const {
   BITMAP description{};
   GetObjectA(bitmap, sizeof description, &description);
   return description.bmBitsPixel / 8;
-}
-
-void DIBClass::PutPixel(int32_t x, int32_t y, uint32_t colour) {
-  if (Holds(x, y)) RowStart(y)[x] = colour;
-}
-
-uint32_t DIBClass::ReadPixel(int32_t x, int32_t y) const {
-  return Holds(x, y) ? RowStart(y)[x] : 0;
-}
-
-void DIBClass::DrawFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight,
-                         uint32_t colour) {
-  SurfaceDrawing::DrawFrame(*this, x, y, frameWidth, frameHeight, colour);
-}
-
-void DIBClass::InvertFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight) {
-  SurfaceDrawing::InvertFrame(*this, x, y, frameWidth, frameHeight);
-}
-
-void DIBClass::Fill(uint32_t colour) { SurfaceDrawing::Fill(*this, colour); }
-
-void DIBClass::CopyRegionKeyed(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx,
-                               int32_t sy, int32_t w, int32_t h, uint32_t key) {
-  SurfaceDrawing::CopyRegionKeyed(*this, source, dx, dy, sx, sy, w, h, key);
-}
-
-void DIBClass::DrawKeyed(const BitmapClass& source, int32_t x, int32_t y, uint32_t key) {
-  SurfaceDrawing::DrawKeyed(*this, source, x, y, key);
-}
-
-void DIBClass::CopyRegion(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx, int32_t sy,
-                          int32_t w, int32_t h) {
-  SurfaceDrawing::CopyRegion(*this, source, dx, dy, sx, sy, w, h);
 }
 
 void DIBClass::Draw(const BitmapClass& source, int32_t x, int32_t y) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "imaging/bitmap_class.h"
+#include "imaging/surface_drawing.h"
 #include "platform/win32.h"
 
 // A surface in a GDI DIB section, so that it can be copied to a device context. The rows lie
 // bottom-up in memory. The canvas, the clipboard's picture and the dialog previews are of this
 // kind.
-class DIBClass final : public BitmapClass {
+class DIBClass final : public SurfaceDrawing<DIBClass> {
  public:
   HBITMAP bitmap = nullptr;  // owned
   uint32_t* bits = nullptr;  // the section's pixels
@@ -18,32 +18,16 @@ class DIBClass final : public BitmapClass {
   DIBClass& operator=(const DIBClass& other);
   ~DIBClass() { Free(); }
 
-  bool CreateFromPixels(const uint32_t* pixels, int32_t newWidth, int32_t newHeight) override;
   // False, with `valid` 0 but the size recorded, when GDI makes no section.
   bool Create(int32_t newWidth, int32_t newHeight) override;
   void Free() override;
   int32_t IsDIB() const override { return 1; }
-  uint32_t* PixelAddress(int32_t x, int32_t y) const override {
-    return Holds(x, y) ? RowStart(y) + x : nullptr;
-  }
   int32_t RowBytes() const override;
   int32_t PixelBytes() const override;
   uint32_t* Row(int32_t y) const override {
-    return valid && y >= 0 && y < height ? RowStart(y) : nullptr;
+    if (!valid || y < 0 || y >= height) return nullptr;
+    return bits + static_cast<ptrdiff_t>(height - 1 - y) * width;
   }
-  void PutPixel(int32_t x, int32_t y, uint32_t colour) override;
-  uint32_t ReadPixel(int32_t x, int32_t y) const override;
-  void Reserved1(int32_t, int32_t, int32_t, int32_t, int32_t) override {}
-  void DrawFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight,
-                 uint32_t colour) override;
-  void InvertFrame(int32_t x, int32_t y, int32_t frameWidth, int32_t frameHeight) override;
-  void Reserved2(int32_t, int32_t, int32_t, int32_t, int32_t) override {}
-  void Fill(uint32_t colour) override;
-  void CopyRegionKeyed(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx, int32_t sy,
-                       int32_t w, int32_t h, uint32_t key) override;
-  void DrawKeyed(const BitmapClass& source, int32_t x, int32_t y, uint32_t key) override;
-  void CopyRegion(const BitmapClass& source, int32_t dx, int32_t dy, int32_t sx, int32_t sy,
-                  int32_t w, int32_t h) override;
   // Clips the source at the right and bottom edges; nothing at a negative position.
   void Draw(const BitmapClass& source, int32_t x, int32_t y) override;
 
@@ -53,9 +37,4 @@ class DIBClass final : public BitmapClass {
   void BlitRegionTo(HDC target, int x, int y, int sx, int sy, int w, int h) const;
   // Stretches the whole surface into a rectangle, in the stretch mode that the caller has set.
   void StretchTo(HDC target, int x, int y, int w, int h) const;
-
- private:
-  uint32_t* RowStart(int32_t y) const {
-    return bits + static_cast<ptrdiff_t>(height - 1 - y) * width;
-  }
 };

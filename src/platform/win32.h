@@ -1,5 +1,5 @@
-// The one way to the Win32 API. Every source includes this header and never <windows.h>, so that the
-// Windows build and the native build see the same names, types and signatures.
+// The one way to the Win32 API. Every source includes this header and never <windows.h>, so that
+// the Windows build and the native build see the same names, types and signatures.
 #pragma once
 
 #ifdef _WIN32

@@ -37,6 +37,7 @@ void SizeAxis(HWND view, Axis axis, int clientSize) {
     axis.offset = (clientSize - axis.canvasSize) / 2;
     axis.scroll = 0;
     axis.visible = axis.canvasSize;
+    SetScrollPos(view, axis.bar, 0, FALSE);  // where the bar stands when it comes back
     ShowScrollBar(view, axis.bar, FALSE);
     return;
   }

@@ -221,11 +221,15 @@ TEST_F(CompositionTest, ItemThatDoesNotFitKeepsItsSelectionFrame) {
 
 TEST_F(CompositionTest, OffsetBeyondTheMapDrawsNoMap) {
   doc.worldMapX = 905;
-  doc.worldMap2xY = 700;
-  const ImageClass image = Composed();
-  EXPECT_EQ(0U, image.ReadPixel(0, 0));
-  EXPECT_EQ(0U, image.ReadPixel(700, 500));
-  EXPECT_EQ(FramePixel(100, 100), image.ReadPixel(446, 152)) << "the frame shows through";
+  for (const POINT beyond : {POINT{701, 0}, POINT{0, 501}}) {
+    doc.worldMap2xX = beyond.x;
+    doc.worldMap2xY = beyond.y;
+    const ImageClass image = Composed();
+    EXPECT_EQ(0U, image.ReadPixel(0, 0));
+    EXPECT_EQ(0U, image.ReadPixel(700, 500));
+    EXPECT_EQ(FramePixel(100, 100), image.ReadPixel(446, 152)) << "the frame shows through";
+    EXPECT_EQ(FramePixel(6, 5), image.ReadPixel(352, 57)) << "nothing beside the window";
+  }
 }
 
 struct Oddity {

@@ -11,7 +11,7 @@
 #include "document/load_screen_doc.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "export/palette_mapping.h"
+#include "export/shp_palette.h"
 #include "export/quantizer.h"
 #include "support/file_content.h"
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "export/palette_mapping.h"
 
 namespace {
 

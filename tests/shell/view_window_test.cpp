@@ -124,6 +124,8 @@ TEST_F(ViewTest, GrowingViewKeepsTheEndInSight) {
   SizeView(1000, 600);
   EXPECT_EQ(0, doc.viewScrollX);
   EXPECT_EQ(0, doc.viewScrollY);
+  SizeView(600, 400);
+  for (const int bar : {SB_HORZ, SB_VERT}) EXPECT_EQ(0, GetScrollPos(doc.viewWindow, bar));
 }
 
 // What PaintView puts onto a device context.
