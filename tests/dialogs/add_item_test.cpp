@@ -180,13 +180,4 @@ TEST_F(AddItemTest, DialogWithoutSettingsStaysOpenAndEmpty) {
   }
 }
 
-TEST_F(AddItemTest, SectionWithoutEntriesNeedsNoMessage) {
-  WriteSettings("[SymbolsList]\n1=bad\n");
-  user.When(kCaption, [](HWND dialog) {
-    EXPECT_EQ(Lines(), Items(dialog, IDC_ADD_LIST));
-    Press(dialog, IDCANCEL);
-  });
-  Command(IDM_ADD_ITEM);
-}
-
 }  // namespace

@@ -116,23 +116,10 @@ TEST_F(ChooseScreenshotTest, GivingUpCroppingLeavesNoScreenshot) {
   EXPECT_NE(0x555555U, CanvasPixel(kScreenshotX, kScreenshotY)) << "the view shows that at once";
 }
 
-TEST_F(ChooseScreenshotTest, FileThatCannotBeReadChangesNothing) {
-  WriteSettings("[CameosList]\n");
-  Choose(AppPath("Settings.ini"));
-  ExpectNothingChanged(Finish());
-}
-
 TEST_F(ChooseScreenshotTest, CancellingTheChoiceChangesNothing) {
   user.When(kCaption, [](HWND dialog) { Press(dialog, IDC_SETTINGS_BROWSE); });
   user.When(kOpenCaption, [](HWND dialog) { Press(dialog, IDCANCEL); });
   ExpectNothingChanged(Finish());
-}
-
-TEST_F(ChooseScreenshotTest, AdjustmentCopyIsNotTouched) {
-  doc.screenshotOriginal = PlainPicture(2, 2, 0x999999);
-  Choose(WriteShot(234, 232));
-  Finish();
-  EXPECT_EQ(0x999999U, doc.screenshotOriginal.ReadPixel(1, 1));
 }
 
 }  // namespace

@@ -130,19 +130,6 @@ TEST_F(CropImageTest, ClickCentresTheRectangle) {
   ExpectCroppedAt(395, 268);
 }
 
-TEST_F(CropImageTest, ClicksNearTheEdgesStayInside) {
-  Crop(300, 232, [](HWND dialog) {
-    const HWND preview = SizePreview(dialog, 400, 100);
-    Click(preview, 399, 99);
-    EXPECT_EQ("66", Text(dialog, IDC_CROP_X));
-    EXPECT_EQ("0", Text(dialog, IDC_CROP_Y));
-    Click(preview, 2, 3);
-    EXPECT_EQ("0", Text(dialog, IDC_CROP_X));
-    Press(dialog, IDOK);
-  });
-  ExpectCroppedAt(0, 0);
-}
-
 TEST_F(CropImageTest, PreviewDimsAllButTheOutlinedRectangle) {
   user.When(kCaption, [](HWND dialog) {
     const HWND preview = SizePreview(dialog, 300, 280);

@@ -122,15 +122,4 @@ TEST_F(ScreenshotSettingsTest, CancelRestoresTheScreenshot) {
   }
 }
 
-TEST_F(ScreenshotSettingsTest, ScreenshotThatVanishesLeavesTheFaceColour) {
-  Open([](HWND dialog) {
-    doc.screenshot.Free();
-    doc.screenshotOriginal.Free();
-    Slide(dialog, IDC_SHOT_RED, 0);
-    EXPECT_EQ(FaceColour(), WindowPixel(GetDlgItem(dialog, IDC_SHOT_PREVIEW), 100, 100));
-    Press(dialog, IDCANCEL);
-  });
-  EXPECT_EQ(0, doc.screenshot.valid);
-}
-
 }  // namespace

@@ -89,14 +89,4 @@ TEST_F(SelectItemTest, HundredAndFirstItemIsSelectedByItsNumber) {
   Command(IDM_SELECT_ITEM);
 }
 
-TEST_F(SelectItemTest, StaleSelectionShowsNoLine) {
-  AddItemAt(0, 0);
-  doc.selectedItem = 7;
-  user.When(kCaption, [](HWND dialog) {
-    EXPECT_EQ(-1, Selected(dialog, IDC_SELECT_LIST));
-    Press(dialog, IDCANCEL);
-  });
-  Command(IDM_SELECT_ITEM);
-}
-
 }  // namespace

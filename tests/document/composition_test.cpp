@@ -139,12 +139,6 @@ INSTANTIATE_TEST_SUITE_P(All, CompositionSettingTest, testing::ValuesIn(kSetting
 
 TEST_F(CompositionTest, NoTargetIsNoError) { ComposeLoadScreen(nullptr); }
 
-struct FanPoint {
-  const char* name;
-  int32_t x, y;
-  uint32_t colour;
-};
-
 // The fans start at columns 232 to 236 of the box's top row and of the row below it, and end at
 // columns 346 to 350 of rows 52 and 337.
 TEST_F(CompositionTest, FansJoinTheBoxToTheFrame) {

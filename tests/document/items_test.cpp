@@ -75,24 +75,6 @@ class ItemsTest : public EditorFixture {
   }
 };
 
-TEST_F(ItemsTest, AddedItemIsUnselectedAndNotYetShown) {
-  Command(IDM_UNSELECT_ITEM);
-  EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
-  ImageClass picture = PlainPicture(20, 10, 0x111111);
-  AddItem(picture, 100, 400, 0x123456);
-  picture.Fill(0);
-  ASSERT_EQ(1, doc.items.Count());
-  const ItemClass& item = doc.items.At(0);
-  EXPECT_EQ(100, item.x);
-  EXPECT_EQ(400, item.y);
-  EXPECT_EQ(0x123456U, item.colour);
-  EXPECT_EQ(0U, item.selected);
-  EXPECT_EQ(0x111111U, item.image.ReadPixel(19, 9));
-  EXPECT_EQ(-1, doc.selectedItem);
-  EXPECT_NE(0x111111U, CanvasPixel(100, 400));
-  EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
-}
-
 TEST_F(ItemsTest, SelectMarksOneItemAndEnablesDelete) {
   for (int i = 0; i < 3; ++i) Add(100 * i, 400);
   Command(IDM_UNSELECT_ITEM);

@@ -36,16 +36,6 @@ class DocumentTest : public EditorFixture {
   }
 };
 
-TEST_F(DocumentTest, StartUpLoadsAllTemplates) {
-  EXPECT_EQ(FramePixel(5, 3), doc.largeTargetBox.ReadPixel(5, 3));
-  EXPECT_EQ(TargetBoxPixel(5, 4), doc.smallTargetBox.ReadPixel(5, 4));
-  EXPECT_EQ(ZoomedMapPixel(5, 3), doc.worldMap2x.ReadPixel(5, 3));
-  EXPECT_EQ(WorldMapPixel(Allied, 5, 3), doc.worldMap.ReadPixel(5, 3));
-  EXPECT_EQ(std::pair(0, 2), LoadedOverlay());
-  EXPECT_EQ("Allied - 2", StatusText(0));
-  EXPECT_EQ(1, doc.animateAboutBox);
-}
-
 TEST_F(DocumentTest, SideAndIconCountChooseTheTemplates) {
   const struct {
     int side, count;
@@ -92,18 +82,6 @@ TEST_F(DocumentTest, OtherSideKeepsOffsetsIconsAndScreenshot) {
   EXPECT_EQ(8U, CanvasPixel(775, 498));
 }
 
-TEST_F(DocumentTest, LayersFollowTheirSwitchesAndMarks) {
-  for (const auto& [top, bottom] :
-       {std::pair(0, 1), std::pair(1, 0), std::pair(0, 0), std::pair(1, 1)}) {
-    SetLayers(top, bottom);
-    EXPECT_EQ(top != 0, IsCommandChecked(IDM_VIEW_TOP_LAYER));
-    EXPECT_EQ(bottom != 0, IsCommandChecked(IDM_VIEW_BOTTOM_LAYER));
-    EXPECT_EQ(bottom ? WorldMapPixel(Allied, 0, 0) : 0, CanvasPixel(0, 0));
-    const uint32_t behind = bottom ? WorldMapPixel(Allied, 500, 52) : 0;
-    EXPECT_EQ(top ? FramePixel(154, 0) : behind, CanvasPixel(500, 52));
-  }
-}
-
 // An application folder in which the editor has not been started yet.
 class TemplatesTest : public EditorFixture {
  protected:
@@ -144,12 +122,6 @@ TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
     ImageUnInit();
   }
   EXPECT_EQ(nullptr, FindWindowA(kMainClassName, nullptr));
-}
-
-TEST_F(TemplatesTest, UnreadableTemplateCountsAsMissing) {
-  std::ofstream(File("Templates/com_smalltargetbox.png")) << "no picture";
-  user.Answer("Corvanta", kFixedTemplates[1].message, MB_ICONHAND, IDOK);
-  EXPECT_FALSE(Start());
 }
 
 // "Templates\com_largetargetbox.png" has 32 characters.

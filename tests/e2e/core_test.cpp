@@ -31,11 +31,6 @@ ImageClass CopyByClipboard(const Editor& editor) {
   return picture;
 }
 
-void ChooseMode(const Editor& editor, const std::string& mode) {
-  editor.Menu("Mode", mode);
-  WaitUntil("mode " + mode, [&] { return editor.Status(1) == "Current mode: " + mode; });
-}
-
 }  // namespace
 
 TEST(CoreTest, SavesTheSamePictureInEveryFormatAfterStartUp) {
@@ -52,51 +47,4 @@ TEST(CoreTest, SavesTheSamePictureInEveryFormatAfterStartUp) {
   ExpectSaved(picture);
   EXPECT_TRUE(IsShown(CopyByClipboard(editor)));
   ExportSprite(editor, "start", picture, 256, PaletteName::Chosen);
-}
-
-TEST(CoreTest, SavesWhatTheArrowKeysMoved) {
-  Editor editor;
-  editor.Start();
-  ChooseMode(editor, "Move large map");
-  editor.Press(VK_RIGHT, {VK_CONTROL, VK_SHIFT});
-  editor.Press(VK_DOWN, {VK_CONTROL});
-  ChooseMode(editor, "Move target box");
-  editor.Press(VK_DOWN, {VK_SHIFT});
-  editor.Press(VK_DOWN);
-  ChooseMode(editor, "Move small map");
-  editor.Press(VK_LEFT);
-  editor.Main().Screenshot("moved");
-
-  ExpectFreshDocument("all", 2);
-  doc.worldMap2xX += 10;
-  doc.worldMap2xY += 5;
-  doc.targetBoxY += 3;
-  doc.worldMapX = doc.worldMap.width - 1;
-  ExpectShown(editor);
-  const ImageClass picture = SavePicture(editor, "moved.png");
-  ExpectSaved(picture);
-  // The frame's window, without the help of the composition.
-  for (int y = 0; y < 277; ++y) {
-    for (int x = 0; x < 281; ++x) {
-      ASSERT_EQ(picture.ReadPixel(353 + x, 58 + y), doc.worldMap2x.ReadPixel(242 + x, 108 + y));
-    }
-  }
-  ExportSprite(editor, "moved", picture, 64, PaletteName::Typed);
-}
-
-TEST(CoreTest, SavesBlackWithoutLayers) {
-  Editor editor;
-  editor.Start();
-  ExpectFreshDocument("all", 2);
-  doc.showTopLayer = 0;
-  editor.MenuWithKeys("View", "View top layer");
-  ExpectShown(editor);
-  doc.showBottomLayer = 0;
-  editor.Menu("View", "View bottom layer");
-  ExpectShown(editor);
-  editor.Main().Screenshot("nolayers");
-  const ImageClass picture = SavePicture(editor, "nolayers.png");
-  ImageClass black;
-  black.Create(kPictureWidth, kPictureHeight);
-  EXPECT_TRUE(SamePixels(picture, black));
 }

@@ -11,8 +11,8 @@
 #include "document/load_screen_doc.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "export/shp_palette.h"
 #include "export/quantizer.h"
+#include "export/shp_palette.h"
 #include "support/file_content.h"
 
 namespace {

@@ -255,21 +255,4 @@ TEST_F(ShpOptionsTest, CloseBoxEscapeAndACancelledNameWriteNothing) {
   EXPECT_EQ("", Shp());
 }
 
-TEST_F(ShpOptionsTest, SelectionFrameAndHiddenLayersAreExportedAsShown) {
-  AddItem(PlainPicture(800, 520, 0x000000), 0, 0, 0);
-  SelectItem(0);
-  const auto corner = [this] {
-    Open([this](HWND dialog) {
-      Type(dialog, IDC_SHP_NAME, AppPath("new.pal"));
-      Press(dialog, IDOK);
-    });
-    const auto entry = static_cast<uint8_t>(Shp()[32]);
-    return ReadContent(File("new.pal")).substr(entry * 3U, 3);
-  };
-  EXPECT_EQ("\x3F\x3F\x3F", corner()) << "the frame inverts black";
-  Command(IDM_VIEW_TOP_LAYER);
-  Command(IDM_VIEW_BOTTOM_LAYER);
-  EXPECT_EQ(std::string(3, '\0'), corner());
-}
-
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 
 ShpPalette PaletteOf(std::initializer_list<ShpColour> colours) {
@@ -40,13 +39,6 @@ TEST(NearestColorTest, FindsTheFirstNearestEntry) {
                                        test.colour.blue, test.n))
         << test.name;
   }
-}
-
-TEST(NearestColorTest, LastOf256EntriesIsReached) {
-  ShpPalette palette;
-  palette.entries[255] = {250, 251, 252};
-  EXPECT_EQ(255, NearestColor(palette, 250, 251, 252, 256));
-  EXPECT_EQ(0, NearestColor(palette, 250, 251, 252, 255));
 }
 
 // The distances as sums of differences, told once more.

@@ -58,18 +58,6 @@ TEST_F(DibOutputTest, BlitRegionIsCutAtTheSurface) {
   }
 }
 
-TEST_F(DibOutputTest, HundredColumnsAreLeftOfTheCanvasAt700) {
-  DIBClass canvas(800, 520), screen(300, 1);
-  canvas.Fill(1);
-  screen.Fill(0);
-  {
-    const MemoryDc dc(nullptr, screen.bitmap);
-    canvas.BlitRegionTo(dc.get(), 0, 0, 700, 0, 300, 1);
-  }
-  EXPECT_EQ(1U, screen.ReadPixel(99, 0));
-  EXPECT_EQ(0U, screen.ReadPixel(100, 0));
-}
-
 TEST_F(DibOutputTest, StretchFillsTheRectangle) {
   DIBClass large(6, 4);
   {

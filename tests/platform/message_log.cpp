@@ -23,35 +23,19 @@ std::string Describe(UINT message, WPARAM wParam, LPARAM lParam) {
       return wParam ? "SHOW" : "HIDE";
     case WM_ENABLE:
       return wParam ? "ENABLE" : "DISABLE";
-    case WM_ACTIVATE:
-      return LOWORD(wParam) ? "ACTIVATE" : "DEACTIVATE";
     case WM_COMMAND:
       return "COMMAND " + std::to_string(LOWORD(wParam)) + " code " +
              std::to_string(HIWORD(wParam));
-    case WM_HSCROLL:
-      return "HSCROLL " + std::to_string(LOWORD(wParam));
-    case WM_VSCROLL:
-      return "VSCROLL " + std::to_string(LOWORD(wParam)) + " at " + std::to_string(HIWORD(wParam));
     case WM_USER:
       return "USER " + std::to_string(wParam);
     default:
       break;
   }
-  static const std::map<UINT, const char*> names = {{WM_NCCREATE, "NCCREATE"},
-                                                    {WM_CREATE, "CREATE"},
-                                                    {WM_DESTROY, "DESTROY"},
-                                                    {WM_NCDESTROY, "NCDESTROY"},
-                                                    {WM_PAINT, "PAINT"},
-                                                    {WM_ERASEBKGND, "ERASE"},
-                                                    {WM_SETFOCUS, "SETFOCUS"},
-                                                    {WM_KILLFOCUS, "KILLFOCUS"},
-                                                    {WM_TIMER, "TIMER"},
-                                                    {WM_CLOSE, "CLOSE"},
-                                                    {WM_GETMINMAXINFO, "MINMAX"},
-                                                    {WM_KEYDOWN, "KEYDOWN"},
-                                                    {WM_SETTEXT, "SETTEXT"},
-                                                    {WM_LBUTTONDOWN, "LBUTTONDOWN"},
-                                                    {WM_CAPTURECHANGED, "CAPTURECHANGED"}};
+  static const std::map<UINT, const char*> names = {
+      {WM_NCCREATE, "NCCREATE"},   {WM_CREATE, "CREATE"}, {WM_DESTROY, "DESTROY"},
+      {WM_NCDESTROY, "NCDESTROY"}, {WM_PAINT, "PAINT"},   {WM_ERASEBKGND, "ERASE"},
+      {WM_TIMER, "TIMER"},
+  };
   const auto found = names.find(message);
   return found == names.end() ? std::to_string(message) : found->second;
 }
@@ -101,10 +85,6 @@ void MessageLog::Write(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
 LRESULT MessageLog::Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!current) return DefWindowProcA(window, message, wParam, lParam);
   current->Write(window, message, wParam, lParam);
-  if (message == WM_CREATE && current->createResult) return current->createResult;
   if (message == WM_PAINT && !current->paints) return 0;
-  const LRESULT result = DefWindowProcA(window, message, wParam, lParam);
-  if (message == WM_GETMINMAXINFO && current->minimum.x)
-    reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = current->minimum;
-  return result;
+  return DefWindowProcA(window, message, wParam, lParam);
 }

@@ -24,10 +24,7 @@ class MessageLog {
   // What has been written down since the last call.
   std::vector<std::string> Take();
 
-  // Answers that the windows give instead of the default one.
-  LRESULT createResult = 0;
-  POINT minimum{0, 0};  // of WM_GETMINMAXINFO, unless 0
-  bool paints = true;   // false: WM_PAINT is not handed on and the window stays invalid
+  bool paints = true;  // false: WM_PAINT is not handed on and the window stays invalid
 
  private:
   static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

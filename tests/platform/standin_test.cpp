@@ -1,58 +1,19 @@
-// What the stand-in has to itself: its reader of resource scripts, its stops, its answers to tests.
+// What the stand-in has to itself: its reader of resource scripts, its stops, what it alone can
+// tell.
 #ifndef _WIN32
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "document/item_operations.h"
 #include "platform/message_log.h"
 #include "platform/standin/resources.h"
 #include "platform/standin/testing.h"
+#include "support/editor_fixture.h"
 
 namespace {
 
 using standin::ReadResources;
-
-TEST(ResourceReader, ReadsDialogs) {
-  const auto resources = ReadResources(R"(
-7 DIALOGEX 1, 2, 30, 40
-STYLE DS_SETFONT | WS_POPUP
-CAPTION "A ""quoted"" title"
-FONT 8, "MS Shell Dlg"
-BEGIN
-  LTEXT "two\nlines", -1, 1, 2, 3, 4
-  EDITTEXT 1001, 5, 6, 7, 8, ES_NUMBER | NOT WS_TABSTOP, 0x200
-  CONTROL "", 0x10, "msctls_trackbar32", TBS_BOTH | NOT WS_VISIBLE, 0, 0, 9, 9
-END
-)");
-  const auto& dialog = resources.dialogs.at(7);
-  EXPECT_EQ(dialog.caption, "A \"quoted\" title");
-  EXPECT_EQ(dialog.style, DS_SETFONT | WS_POPUP);
-  EXPECT_EQ(dialog.height, 40);
-  EXPECT_EQ(dialog.fontName, "MS Shell Dlg");
-  ASSERT_EQ(dialog.controls.size(), 3u);
-  EXPECT_EQ(dialog.controls[0].text, "two\nlines");
-  EXPECT_EQ(dialog.controls[0].id, -1);
-  EXPECT_EQ(dialog.controls[0].style, 0x50020000u);
-  EXPECT_EQ(dialog.controls[1].style, 0x50802000u);
-  EXPECT_EQ(dialog.controls[1].exStyle, 0x200u);
-  EXPECT_EQ(dialog.controls[2].className, "msctls_trackbar32");
-  EXPECT_EQ(dialog.controls[2].id, 16);
-  EXPECT_EQ(dialog.controls[2].style, static_cast<DWORD>(WS_CHILD | TBS_BOTH));
-}
-
-TEST(ResourceReader, ReadsMenusAndIconsAndPassesOverTheRest) {
-  const auto resources = ReadResources(R"(
-1 ICON "a.ico"
-1 RT_MANIFEST "a.manifest"
-1 VERSIONINFO FILEVERSION 1, 0
-BEGIN BLOCK "x" BEGIN VALUE "a", "b" END END
-2 MENU { POPUP "File" { MENUITEM "Exit", 40003 MENUITEM SEPARATOR } }
-)");
-  EXPECT_EQ(resources.icons.count(1), 1u);
-  const auto& file = resources.menus.at(2).at(0);
-  EXPECT_EQ(file.flags, static_cast<UINT>(MF_POPUP));
-  ASSERT_EQ(file.items.size(), 2u);
-  EXPECT_EQ(file.items[0].id, 40003u);
-  EXPECT_EQ(file.items[1].flags, static_cast<UINT>(MF_SEPARATOR));
-}
 
 TEST(ResourceReader, StopsAtAWordThatItDoesNotKnow) {
   const struct {
@@ -100,28 +61,70 @@ TEST(StandIn, StopsAtWhatItDoesNotCover) {
   DeleteDC(dc);
 }
 
-TEST(StandIn, KeepsWhatItIsAskedToStart) {
-  const int before = standin::LastShellRequest().count;
-  EXPECT_GT(reinterpret_cast<INT_PTR>(
-                ShellExecuteA(nullptr, nullptr, "a.chm", nullptr, nullptr, SW_SHOW)),
-            32);
-  EXPECT_EQ(standin::LastShellRequest().count, before + 1);
-  EXPECT_EQ(standin::LastShellRequest().file, "a.chm");
-  EXPECT_EQ(standin::LastShellRequest().verb, "");
-  EXPECT_EQ(standin::LastShellRequest().show, SW_SHOW);
+// What the editor asks of the system and only the stand-in tells.
+class RequestTest : public EditorFixture {
+ protected:
+  // Plays the step and expects it to ask the system to open just this.
+  void ExpectOpened(const std::function<void()>& step, const char* verb, const char* file,
+                    int show) {
+    const int before = standin::LastShellRequest().count;
+    step();
+    const standin::ShellRequest& request = standin::LastShellRequest();
+    EXPECT_EQ(request.count, before + 1);
+    EXPECT_EQ(request.verb, verb);
+    EXPECT_EQ(request.file, file);
+    EXPECT_EQ(request.show, show);
+  }
+};
+
+TEST_F(RequestTest, HelpOpensTheManual) {
+  ExpectOpened([this] { Command(IDM_HELP); }, "open", "TAMOVI.CHM", SW_SHOW);
 }
 
-TEST(StandIn, CountsBeepsAndGdiObjects) {
+TEST_F(RequestTest, LinkOpensTheWebPage) {
+  user.When("About Corvanta", [this](HWND about) {
+    ExpectOpened([about] { Click(GetDlgItem(about, IDC_ABOUT_LINK), 2, 2); }, "",
+                 "https://corvanta.example.org/", SW_SHOWMAXIMIZED);
+    Press(about, IDCANCEL);
+  });
+  Command(IDM_ABOUT);
+}
+
+TEST_F(RequestTest, UnusedKeyBeepsWhileAnItemIsSelected) {
+  AddItem(PlainPicture(4, 4, 1), 10, 400, 0);
   const int beeps = standin::BeepCount();
-  MessageBeep(MB_ICONEXCLAMATION);
+  Key('X');
+  EXPECT_EQ(standin::BeepCount(), beeps);
+  SelectItem(0);
+  Key('X');
   EXPECT_EQ(standin::BeepCount(), beeps + 1);
-  const size_t objects = standin::LiveGdiObjects();
-  const HDC screen = GetDC(nullptr);
-  const HBITMAP bitmap = CreateCompatibleBitmap(screen, 2, 2);
-  EXPECT_EQ(standin::LiveGdiObjects(), objects + 2);
-  ReleaseDC(nullptr, screen);
-  DeleteObject(bitmap);
-  EXPECT_EQ(standin::LiveGdiObjects(), objects);
+}
+
+// The whole life of an editor, from an empty process to an empty process.
+class Session : public EditorFixture {
+ public:
+  void Live() {
+    SetUp();
+    WriteSettings("[CameosList]\n[SymbolsList]\n");
+    user.When("About Corvanta", [](HWND about) { Press(about, IDCANCEL); });
+    Command(IDM_ABOUT);
+    user.When("Load screen settings", [](HWND settings) { Press(settings, IDCANCEL); });
+    Command(IDM_LOAD_SCREEN_SETTINGS);
+    user.When("Add new item", [](HWND add) { Press(add, IDCANCEL); });
+    Command(IDM_ADD_ITEM);
+    Command(IDM_COPY);
+    TearDown();
+  }
+
+ private:
+  void TestBody() override {}
+};
+
+TEST(StandIn, SessionLeavesNoGdiObjects) {
+  Session().Live();
+  const size_t before = standin::LiveGdiObjects();
+  Session().Live();
+  EXPECT_EQ(standin::LiveGdiObjects(), before);
 }
 
 }  // namespace

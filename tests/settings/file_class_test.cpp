@@ -149,16 +149,6 @@ TEST_F(FileClassTest, OpenFileIsNotShared) {
   EXPECT_TRUE(second.Open(0));
 }
 
-TEST_F(FileClassTest, DestructorReleasesTheFile) {
-  Make("abcd");
-  {
-    FileClass file(path_.c_str());
-    ASSERT_TRUE(file.Open(0));
-  }
-  FileClass again(path_.c_str());
-  EXPECT_TRUE(again.Open(0));
-}
-
 TEST_F(FileClassTest, NameThatDoesNotFitOpensNothing) {
   // Cut at 259 characters it would name a file that exists.
   std::string longName = path_;
@@ -168,12 +158,6 @@ TEST_F(FileClassTest, NameThatDoesNotFitOpensNothing) {
   EXPECT_FALSE(file.Open(1));
   EXPECT_FALSE(file.Open(0));
   EXPECT_TRUE(std::filesystem::is_empty(folder_.Path()));
-}
-
-TEST_F(FileClassTest, FoldersAreNoFiles) {
-  FileClass file(folder_.Path().c_str());
-  EXPECT_FALSE(file.Open(0));
-  EXPECT_FALSE(file.Open(1));
 }
 
 }  // namespace

@@ -69,6 +69,7 @@ TEST_F(MainWindowTest, MenuIsComplete) {
 
 TEST_F(MainWindowTest, StartsWithItsMarksAndTexts) {
   EXPECT_EQ("Corvanta 1.1", Text(doc.mainWindow));
+  EXPECT_EQ(1, doc.animateAboutBox);
   for (const UINT id :
        {IDM_VIEW_TOP_LAYER, IDM_VIEW_BOTTOM_LAYER, IDM_STATUS_BAR, IDM_MOVE_SMALL_MAP}) {
     EXPECT_TRUE(IsCommandChecked(id)) << id;
@@ -108,7 +109,9 @@ TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
 }
 
 TEST_F(MainWindowTest, LayerCommandsToggleOneLayerEach) {
+  EXPECT_EQ(FramePixel(154, 0), CanvasPixel(500, 52));
   Command(IDM_VIEW_TOP_LAYER);
+  EXPECT_EQ(WorldMapPixel(Allied, 500, 52), CanvasPixel(500, 52));
   EXPECT_EQ(0, doc.showTopLayer);
   EXPECT_EQ(1, doc.showBottomLayer);
   EXPECT_FALSE(IsCommandChecked(IDM_VIEW_TOP_LAYER));
