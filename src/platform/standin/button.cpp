@@ -13,10 +13,6 @@ struct ButtonState : ControlState {
 
 DWORD TypeOf(const Window& button) { return button.style & BS_TYPEMASK; }
 
-bool IsRadio(const Window& button) {
-  return TypeOf(button) == BS_AUTORADIOBUTTON || TypeOf(button) == BS_RADIOBUTTON;
-}
-
 LRESULT DialogCode(const Window& button) {
   switch (TypeOf(button)) {
     case BS_PUSHBUTTON:
@@ -24,7 +20,6 @@ LRESULT DialogCode(const Window& button) {
     case BS_DEFPUSHBUTTON:
       return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
     case BS_AUTORADIOBUTTON:
-    case BS_RADIOBUTTON:
       return DLGC_BUTTON | DLGC_RADIOBUTTON;
     case BS_GROUPBOX:
       return DLGC_STATIC;
@@ -54,10 +49,10 @@ void SetCheck(Window& button, bool check) {
   const DWORD type = TypeOf(button);
   if (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON || type == BS_GROUPBOX) return;
   StateOf<ButtonState>(button).checked = check;
-  if (!IsRadio(button)) return;
+  if (type != BS_AUTORADIOBUTTON) return;
   // Tab reaches the checked button of a group.
   button.style = check ? button.style | WS_TABSTOP : button.style & ~static_cast<DWORD>(WS_TABSTOP);
-  if (check && type == BS_AUTORADIOBUTTON) UncheckOthers(button);
+  if (check) UncheckOthers(button);
 }
 
 void Clicked(Window& button) {
@@ -84,12 +79,6 @@ void Release(Window& button, LPARAM place) {
   if (x >= 0 && y >= 0 && x < button.ClientWidth() && y < button.ClientHeight()) Clicked(button);
 }
 
-LRESULT StateBits(Window& button) {
-  const ButtonState& state = StateOf<ButtonState>(button);
-  return (state.checked ? BST_CHECKED : 0) | (state.pushed ? BST_PUSHED : 0) |
-         (GetFocus() == button.handle ? BST_FOCUS : 0);
-}
-
 }  // namespace
 
 LRESULT ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -104,8 +93,6 @@ LRESULT ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     case BM_SETCHECK:
       SetCheck(*button, wParam == BST_CHECKED);
       return 0;
-    case BM_GETSTATE:
-      return StateBits(*button);
     case BM_CLICK:
       SendMessageA(handle, WM_LBUTTONDOWN, 0, 0);
       SendMessageA(handle, WM_LBUTTONUP, 0, 0);

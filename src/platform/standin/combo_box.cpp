@@ -1,5 +1,3 @@
-#include <cstdio>
-
 #include "platform/standin/controls.h"
 #include "platform/standin/failure.h"
 #include "platform/standin/list_entries.h"
@@ -37,13 +35,6 @@ LRESULT ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case CB_ADDSTRING:
       return entries.Add(reinterpret_cast<const char*>(lParam), combo->style & CBS_SORT);
-    case CB_INSERTSTRING:
-      return entries.Insert(static_cast<int>(wParam), reinterpret_cast<const char*>(lParam));
-    case CB_DELETESTRING:
-      return entries.Delete(wParam);
-    case CB_RESETCONTENT:
-      entries.Clear();
-      return 0;
     case CB_GETCOUNT:
       return entries.Count();
     case CB_GETCURSEL:
@@ -58,11 +49,6 @@ LRESULT ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return entries.Data(wParam);
     case CB_SETITEMDATA:
       return entries.SetData(wParam, lParam);
-    case WM_GETTEXT:
-      return std::snprintf(reinterpret_cast<char*>(lParam), wParam, "%s",
-                           entries.SelectedText().c_str());
-    case WM_GETTEXTLENGTH:
-      return static_cast<LRESULT>(entries.SelectedText().size());
     case WM_KEYDOWN:
       Choose(*combo, entries.TargetOf(wParam));
       return 0;

@@ -20,9 +20,6 @@
 #define MAKEINTRESOURCEA(id) ((LPSTR)((ULONG_PTR)((WORD)(id))))
 #define RGB(red, green, blue) \
   ((COLORREF)(((BYTE)(red) | ((WORD)((BYTE)(green)) << 8)) | (((DWORD)(BYTE)(blue)) << 16)))
-#define GetRValue(colour) ((BYTE)(colour))
-#define GetGValue(colour) ((BYTE)(((WORD)(colour)) >> 8))
-#define GetBValue(colour) ((BYTE)((colour) >> 16))
 
 // Handles and names made of numbers
 #define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)-1)
@@ -39,8 +36,6 @@
 #define TRACKBAR_CLASSA "msctls_trackbar32"
 #define UPDOWN_CLASSA "msctls_updown32"
 #define PROGRESS_CLASSA "msctls_progress32"
-#define OPENFILENAME_SIZE_VERSION_400A \
-  ((DWORD)(offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(LPCSTR)))
 
 // Window messages
 #define WM_NULL 0
@@ -65,7 +60,6 @@
 #define WM_GETFONT 0x31
 #define WM_NOTIFY 0x4E
 #define WM_SETICON 0x80
-#define WM_GETICON 0x7F
 #define WM_NCCREATE 0x81
 #define WM_NCDESTROY 0x82
 #define WM_GETDLGCODE 0x87
@@ -85,7 +79,6 @@
 #define WM_RBUTTONUP 0x0205
 #define WM_CAPTURECHANGED 0x0215
 #define WM_CUT 0x0300
-#define WM_COPY 0x0301
 #define WM_PASTE 0x0302
 #define WM_CLEAR 0x0303
 #define WM_USER 0x0400
@@ -97,7 +90,6 @@
 #define ICON_SMALL 0
 
 // Window and class styles
-#define WS_OVERLAPPED 0
 #define WS_POPUP 0x80000000
 #define WS_CHILD 0x40000000
 #define WS_VISIBLE 0x10000000
@@ -150,7 +142,6 @@
 #define RDW_ERASENOW 0x0200
 #define RDW_FRAME 0x0400
 #define AW_HIDE 0x00010000
-#define AW_ACTIVATE 0x00020000
 #define AW_BLEND 0x00080000
 #define GWL_STYLE (-16)
 #define GWL_EXSTYLE (-20)
@@ -162,7 +153,6 @@
 #define DWLP_MSGRESULT 0
 #define DWLP_DLGPROC 8
 #define DWLP_USER 0x10
-#define PM_NOREMOVE 0
 #define PM_REMOVE 1
 
 // Scroll bars
@@ -170,17 +160,12 @@
 #define SB_VERT 1
 #define SB_CTL 2
 #define SB_BOTH 3
-#define SB_LINEUP 0
 #define SB_LINELEFT 0
-#define SB_LINEDOWN 1
 #define SB_LINERIGHT 1
-#define SB_PAGEUP 2
 #define SB_PAGELEFT 2
-#define SB_PAGEDOWN 3
 #define SB_PAGERIGHT 3
 #define SB_THUMBPOSITION 4
 #define SB_THUMBTRACK 5
-#define SB_TOP 6
 #define SB_LEFT 6
 #define SB_BOTTOM 7
 #define SB_RIGHT 7
@@ -251,7 +236,6 @@
 #define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
 #define DM_GETDEFID 0x0400
-#define DM_SETDEFID 0x0401
 #define WM_NEXTDLGCTL 0x28
 #define DC_HASDEFID 0x534B
 
@@ -259,19 +243,15 @@
 #define BS_PUSHBUTTON 0
 #define BS_DEFPUSHBUTTON 1
 #define BS_AUTOCHECKBOX 3
-#define BS_RADIOBUTTON 4
 #define BS_AUTORADIOBUTTON 9
 #define BS_GROUPBOX 7
 #define BS_TYPEMASK 0x0F
 #define BS_MULTILINE 0x2000
 #define BM_GETCHECK 0xF0
 #define BM_SETCHECK 0xF1
-#define BM_GETSTATE 0xF2
 #define BM_CLICK 0xF5
 #define BST_UNCHECKED 0
 #define BST_CHECKED 1
-#define BST_PUSHED 4
-#define BST_FOCUS 8
 #define BN_CLICKED 0
 
 // Edit controls
@@ -279,19 +259,14 @@
 #define ES_MULTILINE 4
 #define ES_AUTOHSCROLL 0x80
 #define ES_READONLY 0x0800
-#define ES_WANTRETURN 0x1000
 #define ES_NUMBER 0x2000
 #define EM_GETSEL 0xB0
 #define EM_SETSEL 0xB1
 #define EM_LIMITTEXT 0xC5
-#define EM_GETLIMITTEXT 0xD5
-#define EM_REPLACESEL 0xC2
-#define EM_SETREADONLY 0xCF
 #define EN_SETFOCUS 0x0100
 #define EN_KILLFOCUS 0x0200
 #define EN_CHANGE 0x0300
 #define EN_UPDATE 0x0400
-#define EN_MAXTEXT 0x0501
 
 // Static controls
 #define SS_LEFT 0
@@ -299,7 +274,6 @@
 #define SS_ICON 3
 #define SS_BLACKRECT 4
 #define SS_ETCHEDFRAME 0x12
-#define SS_NOPREFIX 0x80
 #define SS_CENTERIMAGE 0x0200
 #define SS_SUNKEN 0x1000
 #define SS_LEFTNOWORDWRAP 0x0C
@@ -311,8 +285,6 @@
 #define LBS_SORT 2
 #define LB_ADDSTRING 0x0180
 #define LB_INSERTSTRING 0x0181
-#define LB_DELETESTRING 0x0182
-#define LB_RESETCONTENT 0x0184
 #define LB_SETCURSEL 0x0186
 #define LB_GETCURSEL 0x0188
 #define LB_GETTEXT 0x0189
@@ -330,13 +302,10 @@
 #define CBS_SIMPLE 1
 #define CBS_SORT 0x0100
 #define CB_ADDSTRING 0x0143
-#define CB_DELETESTRING 0x0144
 #define CB_GETCOUNT 0x0146
 #define CB_GETCURSEL 0x0147
 #define CB_GETLBTEXT 0x0148
 #define CB_GETLBTEXTLEN 0x0149
-#define CB_INSERTSTRING 0x014A
-#define CB_RESETCONTENT 0x014B
 #define CB_SETCURSEL 0x014E
 #define CB_GETITEMDATA 0x0150
 #define CB_SETITEMDATA 0x0151
@@ -350,7 +319,6 @@
 #define SBARS_SIZEGRIP 0x0100
 #define SB_SETTEXTA 0x0401
 #define SB_GETTEXTA 0x0402
-#define SB_GETTEXTLENGTHA 0x0403
 #define SB_SETPARTS 0x0404
 #define SB_GETPARTS 0x0406
 
@@ -377,35 +345,24 @@
 #define UDS_NOTHOUSANDS 0x80
 #define UDM_SETRANGE 0x0465
 #define UDM_GETRANGE 0x0466
-#define UDM_SETPOS 0x0467
-#define UDM_GETPOS 0x0468
-#define UDM_GETBUDDY 0x046A
-#define UDN_DELTAPOS 0xFFFFFD2E
 
 // Progress bars
 #define PBM_SETRANGE 0x0401
-#define PBM_SETPOS 0x0402
 #define PBM_SETSTEP 0x0404
 #define PBM_STEPIT 0x0405
 #define PBM_GETPOS 0x0408
-#define PBM_GETRANGE 0x0407
 
 // File dialogs
 #define OFN_HIDEREADONLY 4
-#define OFN_NOCHANGEDIR 8
 #define OFN_ENABLEHOOK 0x20
 #define OFN_ENABLETEMPLATE 0x40
-#define OFN_PATHMUSTEXIST 0x0800
 #define OFN_FILEMUSTEXIST 0x1000
 #define OFN_EXPLORER 0x00080000
 #define OFN_ENABLESIZING 0x00800000
 #define CDM_GETFILEPATH 0x0465
 #define CDM_SETCONTROLTEXT 0x0468
-#define CDN_INITDONE 0xFFFFFDA7
 #define CDN_SELCHANGE 0xFFFFFDA6
-#define CDN_FILEOK 0xFFFFFDA2
 #define FNERR_BUFFERTOOSMALL 0x3003
-#define CDERR_STRUCTSIZE 1
 #define cmb13 0x047C
 
 // Clipboard, colours, cursors

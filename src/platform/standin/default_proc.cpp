@@ -61,8 +61,6 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
       return 0;
     case WM_SETICON:
       return SetIcon(*window, wParam, lParam);
-    case WM_GETICON:
-      return reinterpret_cast<LRESULT>(wParam == ICON_SMALL ? window->smallIcon : window->bigIcon);
     default:
       return 0;
   }

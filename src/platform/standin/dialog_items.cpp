@@ -56,11 +56,6 @@ UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned) {
   return static_cast<UINT>(value);
 }
 
-BOOL CheckDlgButton(HWND dialog, int id, UINT check) {
-  SendDlgItemMessageA(dialog, id, BM_SETCHECK, check, 0);
-  return TRUE;
-}
-
 UINT IsDlgButtonChecked(HWND dialog, int id) {
   return static_cast<UINT>(SendDlgItemMessageA(dialog, id, BM_GETCHECK, 0, 0));
 }

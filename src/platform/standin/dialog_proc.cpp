@@ -66,9 +66,6 @@ LRESULT DefaultOf(const WindowPtr& window, UINT message, WPARAM wParam, LPARAM l
     case WM_SETFOCUS:
       RestoreFocus(window);
       return 0;
-    case DM_SETDEFID:
-      window->dialog->defaultButton = LOWORD(wParam);
-      return TRUE;
     case DM_GETDEFID:
       return GiveDefaultButton(*window);
     case WM_NEXTDLGCTL:

@@ -37,10 +37,7 @@ void Replace(Window& edit, std::string text) {
   const size_t count = std::max(state.selectionStart, state.selectionEnd) - start;
   if (count == 0 && text.empty()) return;
   const size_t kept = edit.text.size() - count;
-  if (kept + text.size() > state.limit) {
-    NotifyParent(edit, EN_MAXTEXT);
-    text.resize(state.limit > kept ? state.limit - kept : 0);
-  }
+  if (kept + text.size() > state.limit) text.resize(state.limit > kept ? state.limit - kept : 0);
   edit.text.replace(start, count, text);
   Select(edit, start + text.size(), start + text.size());
   InvalidateRect(edit.handle, nullptr, TRUE);
@@ -82,10 +79,6 @@ void Delete(Window& edit, bool before) {
 void Character(Window& edit, char letter) {
   if (letter == '\b') return Delete(edit, true);
   if (IsReadOnly(edit)) return;
-  if (letter == '\r') {
-    if (IsMultiLine(edit) && (edit.style & ES_WANTRETURN)) Replace(edit, "\r\n");
-    return;
-  }
   const auto code = static_cast<unsigned char>(letter);
   if (code < ' ' || code == 127) return;
   if ((edit.style & ES_NUMBER) && !std::isdigit(code)) return;
@@ -178,18 +171,9 @@ LRESULT EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case EM_GETSEL:
       return GetSelection(*edit, wParam, lParam);
-    case EM_REPLACESEL:
-      Replace(*edit, reinterpret_cast<const char*>(lParam));
-      return 0;
     case EM_LIMITTEXT:
       state.limit = wParam ? static_cast<size_t>(wParam) : INT_MAX;
       return 0;
-    case EM_GETLIMITTEXT:
-      return static_cast<LRESULT>(state.limit);
-    case EM_SETREADONLY:
-      edit->style =
-          wParam ? edit->style | ES_READONLY : edit->style & ~static_cast<DWORD>(ES_READONLY);
-      return TRUE;
     case WM_LBUTTONDOWN:
       SetFocus(handle);
       return 0;

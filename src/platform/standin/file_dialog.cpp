@@ -8,9 +8,8 @@
 namespace standin {
 namespace {
 
-constexpr DWORD kKnownFlags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLEHOOK |
-                              OFN_ENABLETEMPLATE | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST |
-                              OFN_EXPLORER | OFN_ENABLESIZING;
+constexpr DWORD kKnownFlags = OFN_HIDEREADONLY | OFN_ENABLEHOOK | OFN_ENABLETEMPLATE |
+                              OFN_FILEMUSTEXIST | OFN_EXPLORER | OFN_ENABLESIZING;
 constexpr int kOwnHeight = 120;  // dialog units; an extension makes the dialog higher and wider
 constexpr int kOwnWidth = 280;
 
@@ -75,13 +74,6 @@ std::string SelectedPath(HWND dialog) {
   return path.empty() ? folder.substr(0, folder.size() - 1) : path;
 }
 
-LRESULT NotifyChild(HWND dialog, UINT code) {
-  const FileDialog& state = StateOfDialog(dialog);
-  if (!state.child) return 0;
-  OFNOTIFYA notice{{dialog, 0, code}, state.request, nullptr};
-  return SendMessageA(state.child, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
-}
-
 // The hook and its template make a child dialog that fills the dialog behind its own controls.
 void CreateChild(HWND dialog, FileDialog& state) {
   const OPENFILENAMEA& request = *state.request;
@@ -110,7 +102,6 @@ void Initialise(HWND dialog, LPARAM param) {
   const std::string proposed = state.request->lpstrFile;
   SetDlgItemTextA(dialog, cmb13, proposed.substr(FolderPart(proposed).size()).c_str());
   CreateChild(dialog, state);
-  NotifyChild(dialog, CDN_INITDONE);
 }
 
 void Refuse(HWND dialog, const std::string& path, const char* reason) {
@@ -123,15 +114,11 @@ bool HasExtension(const std::string& path) {
   return path.find('.', FolderPart(path).size()) != std::string::npos;
 }
 
-// The chosen file type's first pattern says which extension a name gets; for any file it is the
+// The first file type's first pattern says which extension a name gets; for any file it is the
 // default one.
 std::string ExtensionOf(const OPENFILENAMEA& request) {
   if (!request.lpstrDefExt) return "";
   const char* filter = request.lpstrFilter;
-  for (DWORD i = 1; filter && *filter && i < request.nFilterIndex; ++i) {
-    filter += std::strlen(filter) + 1;
-    filter += std::strlen(filter) + 1;
-  }
   if (filter && *filter) {
     std::string pattern = filter + std::strlen(filter) + 1;
     pattern = pattern.substr(0, pattern.find(';'));
@@ -149,12 +136,7 @@ bool Deliver(OPENFILENAMEA& request, const std::string& path) {
     return false;
   }
   std::memcpy(request.lpstrFile, path.c_str(), path.size() + 1);
-  const size_t name = FolderPart(path).size();
-  const size_t dot = path.find_last_of('.');
-  request.nFileOffset = static_cast<WORD>(name);
-  request.nFileExtension =
-      static_cast<WORD>(dot == std::string::npos || dot < name ? path.size() : dot + 1);
-  if (!(request.Flags & OFN_NOCHANGEDIR)) SetCurrentDirectoryA(FolderPart(path).c_str());
+  SetCurrentDirectoryA(FolderPart(path).c_str());
   return true;
 }
 
@@ -173,7 +155,6 @@ void Accept(HWND dialog) {
   const bool exists = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
   if (state.open && (request.Flags & OFN_FILEMUSTEXIST) && !exists)
     return Refuse(dialog, path, "File not found.\nCheck the file name and try again.");
-  if (NotifyChild(dialog, CDN_FILEOK) != 0) return;
   EndDialog(dialog, Deliver(request, path));
 }
 
@@ -202,11 +183,7 @@ INT_PTR FileDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) 
 
 bool RunFileDialog(OPENFILENAMEA* request, bool open) {
   extendedError = 0;
-  if (request->lStructSize != sizeof(OPENFILENAMEA) &&
-      request->lStructSize != OPENFILENAME_SIZE_VERSION_400A) {
-    extendedError = CDERR_STRUCTSIZE;
-    return false;
-  }
+  if (request->lStructSize != sizeof *request) Unsupported("a file dialog of another size");
   if (request->Flags & ~kKnownFlags) Unsupported("a file dialog flag that is not known here");
   const auto visible = static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP);
   DialogTemplate dialog;

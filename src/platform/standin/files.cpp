@@ -102,7 +102,7 @@ HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES
                    DWORD flags, HANDLE) {
   if (disposition != CREATE_ALWAYS && disposition != OPEN_EXISTING)
     standin::Unsupported("CreateFileA knows CREATE_ALWAYS and OPEN_EXISTING only");
-  if (flags & ~FILE_ATTRIBUTE_NORMAL) standin::Unsupported("CreateFileA knows no flags");
+  if (flags & ~DWORD{FILE_ATTRIBUTE_NORMAL}) standin::Unsupported("CreateFileA knows no flags");
   const std::string name = standin::NativePath(path);
   struct stat status {};
   const bool existed = stat(name.c_str(), &status) == 0;

@@ -95,14 +95,6 @@ COLORREF GetPixel(HDC dc, int x, int y) {
   return ColourOf(target->At(x, y));
 }
 
-COLORREF SetPixel(HDC dc, int x, int y, COLORREF colour) {
-  const auto context = FindDC(dc);
-  Pixels* target = context ? TargetOf(*context) : nullptr;
-  if (!target || !target->Contains(x, y)) return CLR_INVALID;
-  target->At(x, y) = PixelOf(colour);
-  return colour;
-}
-
 int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
   const auto context = FindDC(dc);
   Pixels* target = context ? TargetOf(*context) : nullptr;

@@ -31,11 +31,6 @@ LRESULT ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return entries.Add(reinterpret_cast<const char*>(lParam), list->style & LBS_SORT);
     case LB_INSERTSTRING:
       return entries.Insert(static_cast<int>(wParam), reinterpret_cast<const char*>(lParam));
-    case LB_DELETESTRING:
-      return entries.Delete(wParam);
-    case LB_RESETCONTENT:
-      entries.Clear();
-      return 0;
     case LB_GETCOUNT:
       return entries.Count();
     case LB_GETCURSEL:

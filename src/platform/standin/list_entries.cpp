@@ -7,12 +7,6 @@
 
 namespace standin {
 
-namespace {
-
-constexpr LRESULT kPage = 5;
-
-}  // namespace
-
 LRESULT ListEntries::Add(const char* text, bool sorted) {
   if (!sorted) return Insert(-1, text);
   const auto place = std::lower_bound(entries_.begin(), entries_.end(), text,
@@ -30,23 +24,6 @@ LRESULT ListEntries::Insert(LRESULT position, const char* text) {
   return position;
 }
 
-LRESULT ListEntries::Delete(size_t position) {
-  if (position >= entries_.size()) return LB_ERR;
-  const auto place = static_cast<LRESULT>(position);
-  entries_.erase(entries_.begin() + place);
-  if (selected_ == place) {
-    selected_ = LB_ERR;
-  } else if (selected_ > place) {
-    --selected_;
-  }
-  return Count();
-}
-
-void ListEntries::Clear() {
-  entries_.clear();
-  selected_ = LB_ERR;
-}
-
 LRESULT ListEntries::Select(LRESULT position) {
   if (position < -1 || position >= Count()) return LB_ERR;
   return selected_ = position;
@@ -60,12 +37,6 @@ LRESULT ListEntries::TargetOf(WPARAM key) const {
       break;
     case VK_DOWN:
       ++target;
-      break;
-    case VK_PRIOR:
-      target -= kPage;
-      break;
-    case VK_NEXT:
-      target += kPage;
       break;
     case VK_HOME:
       target = 0;
@@ -97,10 +68,6 @@ LRESULT ListEntries::SetData(size_t position, LPARAM data) {
   if (position >= entries_.size()) return LB_ERR;
   entries_[position].data = data;
   return TRUE;
-}
-
-std::string ListEntries::SelectedText() const {
-  return selected_ < 0 ? "" : entries_[static_cast<size_t>(selected_)].text;
 }
 
 }  // namespace standin

@@ -16,8 +16,6 @@ class ListEntries : public ControlState {
   LRESULT Add(const char* text, bool sorted);
   // Inserts at a position (-1: at the end), whatever the sorting.
   LRESULT Insert(LRESULT position, const char* text);
-  LRESULT Delete(size_t position);
-  void Clear();
 
   LRESULT Count() const { return static_cast<LRESULT>(entries_.size()); }
   LRESULT Selected() const { return selected_; }
@@ -29,7 +27,6 @@ class ListEntries : public ControlState {
   LRESULT TextLength(size_t position) const;
   LRESULT Data(size_t position) const;
   LRESULT SetData(size_t position, LPARAM data);
-  std::string SelectedText() const;
 
  private:
   struct Entry {

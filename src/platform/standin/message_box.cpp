@@ -62,8 +62,8 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
   if (icon)
     box.controls.push_back(
         {"Static", "", kIconId, WS_CHILD | WS_VISIBLE | SS_ICON, 0, 7, 7, 20, 20});
-  box.controls.push_back({"Static", text ? text : "", kTextId, WS_CHILD | WS_VISIBLE | SS_NOPREFIX,
-                          0, 35, 7, 168, 36});
+  box.controls.push_back(
+      {"Static", text ? text : "", kTextId, WS_CHILD | WS_VISIBLE, 0, 35, 7, 168, 36});
   if (buttons == MB_OK) {
     AddButton(box, "OK", IDOK, true);
   } else {

@@ -38,8 +38,6 @@ std::string NativePath(const char* path) {
   return native;
 }
 
-void SetModuleFileName(const std::string& path) { ModulePath() = path; }
-
 }  // namespace standin
 
 DWORD GetLastError() { return lastError; }

@@ -42,9 +42,6 @@ LRESULT ProgressBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
   switch (message) {
     case PBM_SETRANGE:
       return SetRange(state, lParam);
-    case PBM_SETPOS:
-      return std::exchange(state.position,
-                           std::clamp(static_cast<int>(wParam), state.minimum, state.maximum));
     case PBM_SETSTEP:
       return std::exchange(state.step, static_cast<int>(wParam));
     case PBM_STEPIT:
@@ -52,8 +49,6 @@ LRESULT ProgressBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
       return Step(state);
     case PBM_GETPOS:
       return state.position;
-    case PBM_GETRANGE:
-      return wParam ? state.minimum : state.maximum;
     default:
       return DefaultControlProc(handle, message, wParam, lParam);
   }

@@ -13,7 +13,6 @@ constexpr size_t kMostParts = 256;
 struct Part {
   int right = -1;  // -1: up to the bar's end
   std::string text;
-  WORD type = 0;
 };
 struct StatusBarState : ControlState {
   std::vector<Part> parts{1};
@@ -39,22 +38,19 @@ LRESULT GetParts(const StatusBarState& state, size_t count, int* rights) {
   return static_cast<LRESULT>(state.parts.size());
 }
 
-// The low byte names the part, the rest how it is drawn.
-LRESULT SetPartText(Window& bar, WPARAM partAndType, const char* text) {
+LRESULT SetPartText(Window& bar, size_t part, const char* text) {
   auto& parts = StateOf<StatusBarState>(bar).parts;
-  const size_t part = partAndType & 0xFF;
   if (part >= parts.size()) return FALSE;
   parts[part].text = text ? text : "";
-  parts[part].type = LOWORD(partAndType & 0xFF00);
   InvalidateRect(bar.handle, nullptr, TRUE);
   return TRUE;
 }
 
 LRESULT GetPartText(const StatusBarState& state, size_t part, char* buffer) {
   if (part >= state.parts.size()) return 0;
-  const Part& found = state.parts[part];
-  if (buffer) std::strcpy(buffer, found.text.c_str());
-  return MAKELONG(found.text.size(), found.type);
+  const std::string& text = state.parts[part].text;
+  std::strcpy(buffer, text.c_str());
+  return static_cast<LRESULT>(text.size());
 }
 
 }  // namespace
@@ -77,8 +73,6 @@ LRESULT StatusBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return SetPartText(*bar, wParam, reinterpret_cast<const char*>(lParam));
     case SB_GETTEXTA:
       return GetPartText(state, wParam, reinterpret_cast<char*>(lParam));
-    case SB_GETTEXTLENGTHA:
-      return GetPartText(state, wParam, nullptr);
     default:
       return DefaultControlProc(handle, message, wParam, lParam);
   }

@@ -10,9 +10,6 @@ namespace standin {
 // Path separators and the file system's own form of a Win32 path: every backslash becomes a slash.
 std::string NativePath(const char* path);
 
-// What GetModuleFileNameA answers from now on. Without it, that is the running program's own path.
-void SetModuleFileName(const std::string& path);
-
 // The last ShellExecuteA: nothing is started, the call is only kept.
 struct ShellRequest {
   int count = 0;

@@ -151,12 +151,6 @@ typedef struct tagNMHDR {
   UINT code;
 } NMHDR, *LPNMHDR;
 
-typedef struct tagNMUPDOWN {
-  NMHDR hdr;
-  int iPos;
-  int iDelta;
-} NMUPDOWN;
-
 typedef struct tagBITMAP {
   LONG bmType;
   LONG bmWidth;

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
-#include <utility>
 
 #include "platform/standin/controls.h"
+#include "platform/standin/failure.h"
 #include "platform/standin/window.h"
 
 namespace standin {
@@ -23,24 +23,14 @@ std::map<HWND, HWND>& Buddies() {
   return *buddies;
 }
 
-std::string Formatted(const Window& arrows, int value) {
-  std::string text = std::to_string(value);
-  if (arrows.style & UDS_NOTHOUSANDS) return text;
-  const size_t digits = value < 0 ? 1 : 0;
-  for (size_t place = text.size(); place > digits + 3;) text.insert(place -= 3, 1, ',');
-  return text;
-}
-
 // What the buddy shows is the position, if it is a number within the range; nothing shown is 0.
 void ReadBuddy(Window& arrows) {
   UpDownState& state = StateOf<UpDownState>(arrows);
   if (!state.buddy || !(arrows.style & UDS_SETBUDDYINT)) return;
   char text[32];
   GetWindowTextA(state.buddy, text, sizeof text);
-  std::string digits = text;
-  std::erase(digits, ',');
   char* end = nullptr;
-  const long value = std::strtol(digits.c_str(), &end, 10);
+  const long value = std::strtol(text, &end, 10);
   const auto [low, high] = std::minmax(state.lower, state.upper);
   if (*end == '\0' && value >= low && value <= high) state.position = static_cast<int>(value);
 }
@@ -48,31 +38,20 @@ void ReadBuddy(Window& arrows) {
 void WriteBuddy(Window& arrows) {
   UpDownState& state = StateOf<UpDownState>(arrows);
   if (!state.buddy || !(arrows.style & UDS_SETBUDDYINT)) return;
-  const std::string text = Formatted(arrows, state.position);
+  const std::string text = std::to_string(state.position);
   char before[32];
   GetWindowTextA(state.buddy, before, sizeof before);
   if (text != before) SetWindowTextA(state.buddy, text.c_str());
 }
 
-LRESULT SetPosition(Window& arrows, int position) {
-  UpDownState& state = StateOf<UpDownState>(arrows);
-  const auto [low, high] = std::minmax(state.lower, state.upper);
-  const int before = std::exchange(state.position, std::clamp(position, low, high));
-  WriteBuddy(arrows);
-  return before;
-}
-
-// One press on an arrow: the parent may forbid it, and hears of the scrolling in any case.
+// One press on an arrow, of which the parent hears.
 void Press(Window& arrows, bool up) {
   UpDownState& state = StateOf<UpDownState>(arrows);
   ReadBuddy(arrows);
-  int delta = up ? 1 : -1;
-  if (state.upper < state.lower) delta = -delta;
-  NMUPDOWN notice{
-      {arrows.handle, static_cast<UINT_PTR>(arrows.id), UDN_DELTAPOS}, state.position, delta};
-  const bool forbidden = SendMessageA(arrows.parent, WM_NOTIFY, static_cast<WPARAM>(arrows.id),
-                                      reinterpret_cast<LPARAM>(&notice)) != 0;
-  if (!forbidden) SetPosition(arrows, state.position + notice.iDelta);
+  const bool more = up == (state.upper >= state.lower);
+  const auto [low, high] = std::minmax(state.lower, state.upper);
+  state.position = std::clamp(state.position + (more ? 1 : -1), low, high);
+  WriteBuddy(arrows);
   SendMessageA(arrows.parent, WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, state.position),
                reinterpret_cast<LPARAM>(arrows.handle));
 }
@@ -125,27 +104,18 @@ LRESULT UpDownProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   UpDownState& state = StateOf<UpDownState>(*arrows);
   switch (message) {
     case WM_CREATE:
+      if (!(arrows->style & UDS_NOTHOUSANDS)) Unsupported("arrows write no thousands separator");
       if (arrows->style & UDS_AUTOBUDDY) Attach(*arrows, PreviousSibling(*arrows));
       return 0;
     case WM_NCDESTROY:
       Detach(*arrows);
       return 0;
-    case UDM_GETBUDDY:
-      return reinterpret_cast<LRESULT>(state.buddy);
     case UDM_SETRANGE:
       state.upper = static_cast<SHORT>(LOWORD(lParam));
       state.lower = static_cast<SHORT>(HIWORD(lParam));
       return 0;
     case UDM_GETRANGE:
       return MAKELONG(state.upper, state.lower);
-    case UDM_SETPOS:
-      return SetPosition(*arrows, static_cast<SHORT>(LOWORD(lParam)));
-    case UDM_GETPOS:
-      ReadBuddy(*arrows);
-      return MAKELONG(state.position, 0);
-    case WM_LBUTTONDOWN:
-      Press(*arrows, static_cast<SHORT>(HIWORD(lParam)) < arrows->ClientHeight() / 2);
-      return 0;
     default:
       return DefaultControlProc(handle, message, wParam, lParam);
   }

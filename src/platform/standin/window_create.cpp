@@ -28,7 +28,8 @@ void CorrectStyles(Window& window) {
   const bool edge =
       (window.exStyle & WS_EX_DLGMODALFRAME) ||
       (!(window.exStyle & WS_EX_STATICEDGE) && (window.style & (WS_DLGFRAME | WS_THICKFRAME)));
-  window.exStyle = edge ? window.exStyle | WS_EX_WINDOWEDGE : window.exStyle & ~WS_EX_WINDOWEDGE;
+  window.exStyle =
+      edge ? window.exStyle | WS_EX_WINDOWEDGE : window.exStyle & ~DWORD{WS_EX_WINDOWEDGE};
 }
 
 void Link(const Window& window) {

@@ -216,7 +216,7 @@ BOOL AnimateWindow(HWND handle, DWORD milliseconds, DWORD flags) {
     return FALSE;
   }
   PassTime(milliseconds);
-  ShowWindow(handle, hide ? SW_HIDE : flags & AW_ACTIVATE ? SW_SHOW : SW_SHOWNA);
+  ShowWindow(handle, hide ? SW_HIDE : SW_SHOWNA);
   return TRUE;
 }
 
