@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 
 #include "support/editor_fixture.h"
+#include "support/file_content.h"
 
 namespace {
 
@@ -20,9 +20,7 @@ class AboutTest : public EditorFixture {
     WriteReadme(kReadme);
   }
 
-  void WriteReadme(const std::string& text) {
-    std::ofstream(File("Templates/readme.txt"), std::ios::binary | std::ios::trunc) << text;
-  }
+  void WriteReadme(const std::string& text) { WriteContent(File("Templates/readme.txt"), text); }
   void Open(const std::function<void(HWND)>& step) {
     user.When(kCaption, step);
     Command(IDM_ABOUT);

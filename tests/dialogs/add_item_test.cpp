@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "dialogs/item_preview.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
@@ -28,16 +29,21 @@ class AddItemTest : public EditorFixture {
     WriteSettings("[SymbolsList]\n1=Mark,mark.png\n2=Lost,lost.png\n");
   }
 
+  // Opens the dialog and plays the step, which closes it.
+  void Open(const std::function<void(HWND)>& step) {
+    user.When(kCaption, step);
+    Command(IDM_ADD_ITEM);
+  }
+
   // What a step shows of the preview, around the picture of mark.png in its middle.
   static std::string Preview(HWND dialog) {
     const HWND control = GetDlgItem(dialog, IDC_ADD_PREVIEW);
-    RECT client{};
-    GetClientRect(control, &client);
+    const SIZE size = ClientSize(control);
     ImageClass shown;
     shown.Create(5, 4);
     for (int i = 0; i < 20; ++i) {
-      const int x = (client.right - 3) / 2 - 1 + i % 5;
-      shown.PutPixel(i % 5, i / 5, WindowPixel(control, x, (client.bottom - 2) / 2 - 1 + i / 5));
+      const int x = (size.cx - 3) / 2 - 1 + i % 5;
+      shown.PutPixel(i % 5, i / 5, WindowPixel(control, x, (size.cy - 2) / 2 - 1 + i / 5));
     }
     Legend legend = ItemLegend();
     legend['.'] = FaceColour();
@@ -49,18 +55,17 @@ const char kNothing[] = ".....\n.....\n.....\n.....\n";
 
 TEST_F(AddItemTest, ListsTheEntriesInReverse) {
   WriteSettings("[SymbolsList]\n1=B,x\n2=C,y\n3=bad\n4=A,z\n4=A,z\n");
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     EXPECT_EQ(Lines({"A", "A", "C", "B"}), Items(dialog, IDC_ADD_LIST));
     EXPECT_EQ(-1, Selected(dialog, IDC_ADD_LIST));
     EXPECT_EQ(GetDlgItem(dialog, IDC_ADD_LIST), GetFocus());
     EXPECT_TRUE(IsChecked(dialog, IDC_ADD_ALLIED));
-    Press(dialog, IDCANCEL);
+    SendMessageA(dialog, WM_CLOSE, 0, 0);
   });
-  Command(IDM_ADD_ITEM);
 }
 
 TEST_F(AddItemTest, PreviewFollowsListAndColour) {
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     EXPECT_EQ(0, doc.itemPreview.valid);
     Choose(dialog, IDC_ADD_LIST, 1);
     EXPECT_EQ(Rows(".....|..An.|.gA..|....."), Preview(dialog));
@@ -70,13 +75,12 @@ TEST_F(AddItemTest, PreviewFollowsListAndColour) {
     EXPECT_EQ(Rows(".....|..Un.|.gU..|....."), Preview(dialog));
     Press(dialog, IDCANCEL);
   });
-  Command(IDM_ADD_ITEM);
   EXPECT_EQ(0, doc.itemPreview.valid) << "released between openings";
   EXPECT_EQ(0, doc.items.Count());
 }
 
 TEST_F(AddItemTest, UnreadablePictureEmptiesThePreview) {
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     Choose(dialog, IDC_ADD_LIST, 1);
     EXPECT_NE(kNothing, Preview(dialog));
     Choose(dialog, IDC_ADD_LIST, 0);
@@ -84,7 +88,6 @@ TEST_F(AddItemTest, UnreadablePictureEmptiesThePreview) {
     EXPECT_EQ(kNothing, Preview(dialog));
     Press(dialog, IDOK);
   });
-  Command(IDM_ADD_ITEM);
   EXPECT_EQ(0, doc.items.Count()) << "OK adds nothing that can't be read";
 }
 
@@ -92,29 +95,25 @@ TEST_F(AddItemTest, PictureLargerThanThePreviewIsClippedAroundItsMiddle) {
   WritePng("Templates\\mark.png", MakePicture(601, 401, [](int32_t x, int32_t y) {
              return x == 300 && y == 200 ? 0xFFFF00U : 0x00C000U;
            }));
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     Choose(dialog, IDC_ADD_LIST, 1);
     const HWND control = GetDlgItem(dialog, IDC_ADD_PREVIEW);
-    RECT client{};
-    GetClientRect(control, &client);
-    const int left = (client.right - 601) / 2;
-    const int top = (client.bottom - 401) / 2;
+    const SIZE size = ClientSize(control);
+    const int left = (size.cx - 601) / 2, top = (size.cy - 401) / 2;
     EXPECT_EQ(0x6150FFU, WindowPixel(control, left + 300, top + 200));
     EXPECT_EQ(0x00C000U, WindowPixel(control, 0, 0));
-    EXPECT_EQ(0x00C000U, WindowPixel(control, client.right - 1, client.bottom - 1));
+    EXPECT_EQ(0x00C000U, WindowPixel(control, size.cx - 1, size.cy - 1));
     Press(dialog, IDCANCEL);
   });
-  Command(IDM_ADD_ITEM);
 }
 
 TEST_F(AddItemTest, OkAddsTheTintedPicture) {
   EnableMenuItem(GetMenu(doc.mainWindow), IDM_DELETE_ITEM, MF_BYCOMMAND | MF_GRAYED);
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     Choose(dialog, IDC_ADD_LIST, 1);
     Press(dialog, IDC_ADD_SOVIET);
     PressKey(GetFocus(), VK_RETURN);
   });
-  Command(IDM_ADD_ITEM);
   ASSERT_EQ(1, doc.items.Count());
   const ItemClass& item = doc.items.At(0);
   EXPECT_EQ(Rows("KSn|gSK"), Drawn(item.image, ItemLegend()));
@@ -128,31 +127,43 @@ TEST_F(AddItemTest, OkAddsTheTintedPicture) {
 }
 
 TEST_F(AddItemTest, ColourSurvivesToTheNextOpeningButNotTheSelection) {
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     Press(dialog, IDC_ADD_YURI);
     EXPECT_EQ(0, doc.itemPreview.valid) << "nothing is selected, nothing is shown";
     Press(dialog, IDOK);
   });
-  Command(IDM_ADD_ITEM);
   EXPECT_EQ(2, doc.itemColour);
   EXPECT_EQ(0, doc.items.Count()) << "OK with nothing selected adds nothing";
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     EXPECT_TRUE(IsChecked(dialog, IDC_ADD_YURI));
     EXPECT_FALSE(IsChecked(dialog, IDC_ADD_ALLIED));
     EXPECT_EQ(-1, Selected(dialog, IDC_ADD_LIST));
     PressKey(GetFocus(), VK_ESCAPE);
   });
-  Command(IDM_ADD_ITEM);
 }
 
 TEST_F(AddItemTest, SpacesBelongToTheFileName) {
   WriteSettings("[SymbolsList]\n1=Mark, mark.png\n");
-  user.When(kCaption, [](HWND dialog) {
+  Open([](HWND dialog) {
     Choose(dialog, IDC_ADD_LIST, 0);
     EXPECT_EQ(0, doc.itemPreview.valid);
     Press(dialog, IDCANCEL);
   });
-  Command(IDM_ADD_ITEM);
+}
+
+TEST_F(AddItemTest, ValuesAreCutAfter255Characters) {
+  const auto entry = [](char letter, size_t length) {
+    return letter + ("=" + std::string(length - 9, letter)) + ",mark.png\n";
+  };
+  WriteSettings("[SymbolsList]\n" + entry('a', 255) + entry('b', 256) + entry('c', 400));
+  Open([](HWND dialog) {
+    EXPECT_EQ(Lines({std::string(247, 'b'), std::string(246, 'a')}), Items(dialog, IDC_ADD_LIST));
+    Choose(dialog, IDC_ADD_LIST, 1);
+    EXPECT_EQ(1, doc.itemPreview.valid);
+    Choose(dialog, IDC_ADD_LIST, 0);
+    EXPECT_EQ(0, doc.itemPreview.valid) << "the file's name has lost a letter";
+    Press(dialog, IDCANCEL);
+  });
 }
 
 TEST_F(AddItemTest, DialogWithoutSettingsStaysOpenAndEmpty) {
@@ -167,14 +178,13 @@ TEST_F(AddItemTest, DialogWithoutSettingsStaysOpenAndEmpty) {
     std::filesystem::remove(File("Settings.ini"));
     if (test.text) WriteSettings(test.text);
     user.Answer("Error", test.message, MB_ICONHAND, IDOK);
-    user.When(kCaption, [](HWND dialog) {
+    Open([](HWND dialog) {
       EXPECT_EQ(Lines(), Items(dialog, IDC_ADD_LIST));
       for (const int id : {IDC_ADD_ALLIED, IDC_ADD_SOVIET, IDC_ADD_YURI}) {
         EXPECT_FALSE(IsChecked(dialog, id));
       }
       Press(dialog, IDOK);
     });
-    Command(IDM_ADD_ITEM);
     EXPECT_EQ(0, doc.items.Count());
     EXPECT_EQ(0, doc.itemColour);
   }

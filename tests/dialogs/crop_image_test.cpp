@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 
@@ -157,14 +158,14 @@ TEST_F(CropImageTest, LayoutFollowsTheSize) {
   Crop(300, 280, [](HWND dialog) {
     for (const SIZE outer : {SIZE{700, 600}, SIZE{440, 334}, SIZE{1000, 500}}) {
       SetWindowPos(dialog, nullptr, 0, 0, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOMOVE);
-      RECT client{}, preview{}, path{};
-      GetClientRect(dialog, &client);
-      GetClientRect(GetDlgItem(dialog, IDC_CROP_PREVIEW), &preview);
+      const SIZE client = ClientSize(dialog);
+      const SIZE preview = ClientSize(GetDlgItem(dialog, IDC_CROP_PREVIEW));
+      RECT path{};
       GetWindowRect(GetDlgItem(dialog, IDC_CROP_PATH), &path);
-      EXPECT_EQ(client.right - 24, preview.right);
-      EXPECT_EQ(client.bottom - 172, preview.bottom);
-      EXPECT_GT(preview.bottom, 0);
-      EXPECT_EQ(client.right - 24, path.right - path.left);
+      EXPECT_EQ(client.cx - 24, preview.cx);
+      EXPECT_EQ(client.cy - 172, preview.cy);
+      EXPECT_GT(preview.cy, 0);
+      EXPECT_EQ(client.cx - 24, path.right - path.left);
       EXPECT_EQ(23, path.bottom - path.top);
       const int expected[][3] = {{IDOK, 87, -33},
                                  {IDCANCEL, 169, -33},
@@ -180,7 +181,7 @@ TEST_F(CropImageTest, LayoutFollowsTheSize) {
         GetWindowRect(GetDlgItem(dialog, place[0]), &control);
         // The path stands at (12, 30) of the client area.
         EXPECT_EQ(place[1] - 12, control.left - path.left) << place[0];
-        EXPECT_EQ(client.bottom + place[2] - 30, control.top - path.top) << place[0];
+        EXPECT_EQ(client.cy + place[2] - 30, control.top - path.top) << place[0];
       }
     }
     Press(dialog, IDCANCEL);

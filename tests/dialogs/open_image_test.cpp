@@ -4,8 +4,10 @@
 
 #include <cstring>
 
+#include "dialogs/dialog.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
+#include "support/find_window.h"
 
 namespace {
 
@@ -62,10 +64,8 @@ TEST_F(OpenImageTest, PreviewFollowsTheSelection) {
     EXPECT_EQ(IDC_OPEN_PREVIEW, GetDlgCtrlID(preview));
     for (const std::string name : {"Templates", "a.png", "lost.png", "a.png"}) {
       SelectFile(dialog, name);
-      RECT client{};
-      GetClientRect(preview, &client);
-      const uint32_t shown =
-          WindowPixel(preview, (client.right - 9) / 2 + 4, (client.bottom - 9) / 2);
+      const SIZE size = ClientSize(preview);
+      const uint32_t shown = WindowPixel(preview, (size.cx - 9) / 2 + 4, (size.cy - 9) / 2);
       EXPECT_EQ(name == "a.png", shown == 0x00C000) << name;
     }
     Press(dialog, IDCANCEL);
@@ -81,11 +81,10 @@ TEST_F(OpenImageTest, PreviewGrowsWithTheDialog) {
     const HWND pane = GetParent(preview);
     for (const int height : {400, 300, 110, 0}) {
       SendMessageA(pane, WM_SIZE, SIZE_RESTORED, MAKELPARAM(500, height));
-      RECT client{}, frame{};
-      GetClientRect(preview, &client);
+      RECT frame{};
       GetWindowRect(GetDlgItem(pane, IDC_OPEN_FRAME), &frame);
-      EXPECT_EQ(210, client.right);
-      EXPECT_EQ(std::max(height - 120, 0), client.bottom) << height;
+      EXPECT_EQ(210, ClientSize(preview).cx);
+      EXPECT_EQ(std::max(height - 120, 0), ClientSize(preview).cy) << height;
       EXPECT_EQ(230, frame.right - frame.left);
       EXPECT_EQ(std::max(height - 100, 0), frame.bottom - frame.top) << height;
     }

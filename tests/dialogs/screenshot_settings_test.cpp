@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 
@@ -25,9 +26,8 @@ class ScreenshotSettingsTest : public EditorFixture {
   // The adjusted screenshot's colour, which preview, document and view have to agree on.
   uint32_t Adjusted(HWND dialog) {
     const HWND preview = GetDlgItem(dialog, IDC_SHOT_PREVIEW);
-    RECT client{};
-    GetClientRect(preview, &client);
-    const uint32_t colour = WindowPixel(preview, client.right / 2, client.bottom / 2);
+    const SIZE size = ClientSize(preview);
+    const uint32_t colour = WindowPixel(preview, size.cx / 2, size.cy / 2);
     EXPECT_EQ(colour, doc.screenshot.ReadPixel(100, 100));
     EXPECT_EQ(colour, CanvasPixel(542 + 100, 267 + 100));
     return colour;

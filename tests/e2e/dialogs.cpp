@@ -7,29 +7,14 @@
 #include "e2e/results.h"
 #include "e2e/screen.h"
 #include "resources/resource.h"
+#include "support/find_window.h"
 
 namespace {
-
-BOOL CALLBACK TakeClass(HWND window, LPARAM parameter) {
-  auto& search = *reinterpret_cast<std::pair<std::string, HWND>*>(parameter);
-  char name[64] = "";
-  GetClassNameA(window, name, sizeof name);
-  if (name != search.first || !IsWindowVisible(window)) return TRUE;
-  search.second = window;
-  return FALSE;
-}
-
-// The first visible window of a class below another, null when there is none.
-HWND Below(HWND parent, const std::string& className) {
-  std::pair<std::string, HWND> search = {className, nullptr};
-  EnumChildWindows(parent, TakeClass, reinterpret_cast<LPARAM>(&search));
-  return search.second;
-}
 
 // Fills in the name. The field's id, and what it lies in, differ between the old and the new file
 // dialogs, but it is the first edit control of both.
 void EnterName(const Window& dialog, const std::string& path) {
-  const HWND field = Below(dialog.Handle(), "Edit");
+  const HWND field = FindChild(dialog.Handle(), "Edit");
   if (!field) GiveUp("The file dialog has no field for a name.");
   SendMessageA(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
   EXPECT_EQ(Window(field).Text(), path);
@@ -48,7 +33,7 @@ void OpenPicture(const Editor& editor, const std::string& path) {
   dialog.Press(IDOK);
   HWND list = nullptr;
   WaitUntil("the folder's only file in the list", [&] {
-    list = Below(dialog.Handle(), "SysListView32");
+    list = FindChild(dialog.Handle(), "SysListView32");
     return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 1;
   });
   // A click beside the only entry gives the list the keyboard.

@@ -5,6 +5,7 @@
 #include "e2e/results.h"
 #include "e2e/screen.h"
 #include "resources/resource.h"
+#include "support/picture_difference.h"
 
 namespace {
 
@@ -166,7 +167,7 @@ void Editor::Press(WORD key, std::initializer_list<WORD> held) const {
   const HeldKeys modifiers(held);
   TapKey(key);
   WaitUntil("key " + std::to_string(key) + " to change the picture",
-            [&] { return !SamePixels(ShownPicture(), before); });
+            [&] { return !Difference(before, ShownPicture()).empty(); });
 }
 
 void Editor::ClickPicture(POINT at) const {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -11,9 +9,9 @@
 #include "document/load_screen_doc.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
-#include "export/quantizer.h"
-#include "export/shp_palette.h"
 #include "support/file_content.h"
+#include "support/picture_difference.h"
+#include "support/sprite.h"
 
 namespace {
 
@@ -27,23 +25,6 @@ ImageClass Compose() {
   picture.Create(kPictureWidth, kPictureHeight);
   picture.CopyRegion(surface, 0, 0, 0, 0, kPictureWidth, kPictureHeight);
   return picture;
-}
-
-// The smallest rectangle around the pixels that differ.
-std::string Difference(const ImageClass& a, const ImageClass& b) {
-  if (a.width != b.width || a.height != b.height) return "the size";
-  int32_t left = a.width, top = a.height, right = 0, bottom = 0;
-  for (int32_t y = 0; y < a.height; ++y) {
-    for (int32_t x = 0; x < a.width; ++x) {
-      if (a.ReadPixel(x, y) == b.ReadPixel(x, y)) continue;
-      left = std::min(left, x);
-      right = std::max(right, x + 1);
-      top = std::min(top, y);
-      bottom = y + 1;
-    }
-  }
-  return std::to_string(right - left) + " x " + std::to_string(bottom - top) + " pixels at " +
-         std::to_string(left) + ", " + std::to_string(top);
 }
 
 }  // namespace
@@ -69,17 +50,10 @@ void ExpectFreshDocument(const std::string& side, int icons) {
 }
 
 void ExpectSaved(const ImageClass& picture) {
-  const ImageClass expected = Compose<ImageClass>();
-  ASSERT_EQ(picture.width, expected.width);
-  ASSERT_EQ(picture.height, expected.height);
-  for (int32_t y = 0; y < picture.height; ++y) {
-    for (int32_t x = 0; x < picture.width; ++x) {
-      ASSERT_EQ(picture.ReadPixel(x, y), expected.ReadPixel(x, y)) << "at " << x << ", " << y;
-    }
-  }
+  EXPECT_EQ(Difference(Compose<ImageClass>(), picture), "");
 }
 
-bool IsShown(const ImageClass& picture) { return SamePixels(picture, Compose<DIBClass>()); }
+bool IsShown(const ImageClass& picture) { return Difference(Compose<DIBClass>(), picture).empty(); }
 
 void ExpectShown(const Editor& editor) {
   const ImageClass expected = Compose<DIBClass>();
@@ -87,28 +61,17 @@ void ExpectShown(const Editor& editor) {
   try {
     WaitUntil("the view to show the document", [&] {
       shown = editor.ShownPicture();
-      return SamePixels(shown, expected);
+      return Difference(expected, shown).empty();
     });
   } catch (const std::runtime_error& error) {
-    throw std::runtime_error(error.what() + ("\nDifferent: " + Difference(shown, expected)));
+    throw std::runtime_error(error.what() + ("\nDifferent: " + Difference(expected, shown)));
   }
 }
 
 void ExpectSprite(const std::string& shpPath, const std::string& palPath, const ImageClass& picture,
                   int colours) {
-  QuantizerClass quantizer(static_cast<uint32_t>(colours), 8);
-  quantizer.AddSurface(picture);
-  uint32_t table[kPaletteEntries] = {};
-  quantizer.FillPalette(table);
-  ShpPalette palette;
-  std::string palBytes;
-  for (int i = 0; i < kPaletteEntries; ++i) {
-    palette.entries[i] = {static_cast<uint8_t>(table[i] >> 16), static_cast<uint8_t>(table[i] >> 8),
-                          static_cast<uint8_t>(table[i])};
-    for (const int shift : {16, 8, 0})
-      palBytes += static_cast<char>((table[i] >> shift & 0xFF) / 4);
-  }
-  const auto used = static_cast<int32_t>(quantizer.EntryCount());
+  const auto [palette, used] = GeneratedPalette(picture, colours);
+  const std::string palBytes = SixBitBytes(palette);
   EXPECT_LE(used, colours);
   EXPECT_GT(used, colours - 8);
   EXPECT_EQ(ReadContent(palPath), palBytes) << palPath;
@@ -118,19 +81,12 @@ void ExpectSprite(const std::string& shpPath, const std::string& palPath, const 
       "\0\0\x20\x03\x08\x02\1\0\0\0\0\0\x20\x03\x08\x02\0\0\0\0\0\0\0\0\0\0\0\0\x20\0\0\0", 32);
   ASSERT_EQ(shp.size(), 416032u) << shpPath;
   EXPECT_EQ(shp.substr(0, header.size()), header) << shpPath;
-  ImageClass decoded;
-  decoded.Create(kPictureWidth, kPictureHeight);
   for (int32_t y = 0; y < kPictureHeight; ++y) {
     std::string row(kPictureWidth, '\0');
     MapToPalette(picture.Row(y), kPictureWidth, palette, used,
                  reinterpret_cast<uint8_t*>(row.data()));
     ASSERT_EQ(shp.compare(header.size() + static_cast<size_t>(y) * row.size(), row.size(), row), 0)
         << shpPath << " differs in row " << y;
-    std::transform(row.begin(), row.end(), decoded.Row(y), [&](char index) {
-      const size_t at = 3 * size_t{static_cast<uint8_t>(index)};
-      const auto part = [&](size_t i) { return static_cast<uint8_t>(palBytes[at + i]) * 4u; };
-      return part(0) << 16 | part(1) << 8 | part(2);
-    });
   }
-  SaveResult(shpPath.substr(shpPath.rfind('\\') + 1) + ".png", decoded);
+  SaveResult(shpPath.substr(shpPath.rfind('\\') + 1) + ".png", ReadSprite(shp, palBytes));
 }

@@ -12,6 +12,7 @@
 #include "e2e/editor.h"
 #include "e2e/expected.h"
 #include "e2e/input.h"
+#include "e2e/load_screen_plans.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
 #include "imaging/pixel_colour.h"
@@ -25,36 +26,6 @@ namespace {
 
 constexpr POINT kNewItem = {110, 110};  // on an item where it is added, at (100, 100)
 constexpr int kShotWidth = 234, kShotHeight = 232;
-
-constexpr int kBlue = IDC_ADD_ALLIED, kRed = IDC_ADD_SOVIET, kViolet = IDC_ADD_YURI;
-
-// Ten pixels a press.
-struct Move {
-  const char* mode;
-  WORD key;
-  int presses;
-};
-
-struct Symbol {
-  const char* key;
-  int colourButton;
-  POINT at;
-};
-
-// What the maker of a load screen has in mind.
-struct Plan {
-  std::string name, prefix;
-  int sideButton, countButton;
-  std::vector<const char*> cameos;
-  const char* sample;
-  POINT crop;      // where the preview of the crop dialog is clicked, in hundredths
-  int dimmed;      // the colour slider that goes down
-  WORD lightness;  // the key for that of lightness
-  std::vector<Move> moves;
-  std::vector<Symbol> symbols;
-
-  int IconCount() const { return static_cast<int>(cameos.size()); }
-};
 
 // One picture of the catalogues in Settings.ini.
 struct Entry {
@@ -73,7 +44,7 @@ Entry Listed(const char* section, const char* key) {
 }
 
 uint32_t ColourOf(int button) {
-  return button == kBlue ? 0x6150FF : button == kRed ? 0xCE0000 : 0xCE1EFA;
+  return button == IDC_ADD_ALLIED ? 0x6150FF : button == IDC_ADD_SOVIET ? 0xCE0000 : 0xCE1EFA;
 }
 
 // Past an edge a map goes on at its opposite edge itself.
@@ -180,7 +151,7 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
   // Adds one symbol too many, drags it far below the view, moves it by keys, finds it in the list
   // and deletes it.
   void RegretSymbol() {
-    AddItem("flag", kRed);
+    AddItem("flag", IDC_ADD_SOVIET);
     editor.Grab(kNewItem);
     editor.DragTo({310, 800});
     const int bottom = 518 - NewItem().image.height;
@@ -296,63 +267,6 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
   const fs::path folder = fs::u8path(std::getenv("PUBLIC")) / "Pictures" / "Corvanta";
 };
 
-const Plan kPlans[] = {Plan{"Allied",
-                            "all",
-                            IDC_SETTINGS_ALLIED,
-                            IDC_SETTINGS_THREE,
-                            {"cruiser", "skimmer", "strike_jet"},
-                            "battlefield2.png",
-                            {52, 39},
-                            IDC_SHOT_RED,
-                            VK_RIGHT,
-                            {{"Move small map", VK_LEFT, 44},
-                             {"Move small map", VK_DOWN, 14},
-                             {"Move large map", VK_LEFT, 87},
-                             {"Move large map", VK_DOWN, 28}},
-                            {{"fleet", kBlue, {575, 80}},
-                             {"spearhead_left", kBlue, {520, 125}},
-                             {"submarine", kBlue, {400, 125}},
-                             {"infantry", kRed, {470, 210}},
-                             {"radar", kRed, {560, 235}},
-                             {"arrow_down_left", kBlue, {300, 106}}}},
-                       Plan{"Soviet",
-                            "sov",
-                            IDC_SETTINGS_SOVIET,
-                            IDC_SETTINGS_THREE,
-                            {"heavytank", "bomber", "radar_dome"},
-                            "battlefield1.png",
-                            {58, 52},
-                            IDC_SHOT_BLUE,
-                            VK_RIGHT,
-                            {{"Move small map", VK_RIGHT, 11},
-                             {"Move small map", VK_UP, 5},
-                             {"Move large map", VK_RIGHT, 22},
-                             {"Move large map", VK_UP, 8}},
-                            {{"armour", kRed, {480, 140}},
-                             {"spearhead_left", kRed, {425, 195}},
-                             {"aircraft", kRed, {560, 260}},
-                             {"infantry", kBlue, {380, 200}},
-                             {"arrow_left", kRed, {190, 155}},
-                             {"flag", kBlue, {155, 160}}}},
-                       Plan{"Yuri",
-                            "psy",
-                            IDC_SETTINGS_YURI,
-                            IDC_SETTINGS_TWO,
-                            {"searchlight", "submarine"},
-                            "battlefield2.png",
-                            {69, 49},
-                            IDC_SHOT_GREEN,
-                            VK_LEFT,
-                            {{"Move small map", VK_RIGHT, 28},
-                             {"Move small map", VK_DOWN, 10},
-                             {"Move target box", VK_DOWN, 2},
-                             {"Move large map", VK_RIGHT, 56},
-                             {"Move large map", VK_DOWN, 24}},
-                            {{"base", kViolet, {480, 200}},
-                             {"radar", kViolet, {540, 120}},
-                             {"submarine", kViolet, {420, 290}},
-                             {"question", kBlue, {200, 250}}}}};
-
 }  // namespace
 
 TEST_P(LoadScreenTest, IsMadeAndExported) {
@@ -372,4 +286,4 @@ TEST_P(LoadScreenTest, IsMadeAndExported) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sides, LoadScreenTest, testing::ValuesIn(kPlans), CaseName());
+INSTANTIATE_TEST_SUITE_P(Sides, LoadScreenTest, testing::ValuesIn(LoadScreenPlans()), CaseName());

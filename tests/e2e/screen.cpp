@@ -9,6 +9,7 @@
 #include "e2e/results.h"
 #include "imaging/dib_class.h"
 #include "imaging/memory_dc.h"
+#include "support/picture_difference.h"
 
 namespace {
 
@@ -83,21 +84,13 @@ ImageClass CaptureScreen(const RECT& area) {
     Sleep(kSettledMilliseconds);
     const ImageClass before = last;
     last = CopyPixels(screen.get(), visible);
-    return SamePixels(last, before);
+    return Difference(before, last).empty();
   });
   return last;
 }
 
 void SaveScreen(const std::string& name, const RECT& area) {
   SaveResult("screen-" + name + ".png", CaptureScreen(area));
-}
-
-bool SamePixels(const ImageClass& a, const ImageClass& b) {
-  if (a.width != b.width || a.height != b.height) return false;
-  for (int32_t y = 0; y < a.height; ++y) {
-    if (!std::equal(a.Row(y), a.Row(y) + a.width, b.Row(y))) return false;
-  }
-  return true;
 }
 
 size_t CountColours(const ImageClass& picture) {

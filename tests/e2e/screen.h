@@ -25,5 +25,4 @@ ImageClass CaptureScreen(const RECT& area);
 // Saves it as screen-<name>.png among the results.
 void SaveScreen(const std::string& name, const RECT& area);
 
-bool SamePixels(const ImageClass& a, const ImageClass& b);
 size_t CountColours(const ImageClass& picture);

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "document/composition.h"
 #include "document/item_operations.h"
 #include "imaging/image_files.h"
 #include "support/editor_fixture.h"
+#include "support/picture_difference.h"
 
 namespace {
 
@@ -29,11 +32,7 @@ TEST_F(SaveAsImageTest, WritesThePictureInTheChosenFormat) {
     Command(IDM_SAVE_AS_IMAGE);
     EXPECT_EQ(AppPath(name), doc.lastFilePath);
     const ImageClass picture = Loaded(name);
-    ASSERT_EQ(800, picture.width);
-    ASSERT_EQ(520, picture.height);
-    for (int32_t y = 0; y < 520; ++y) {
-      ASSERT_TRUE(std::equal(picture.Row(y), picture.Row(y) + 800, expected.Row(y))) << "row " << y;
-    }
+    EXPECT_EQ("", Difference(expected, picture));
     EXPECT_EQ(0xCFDFEFU, picture.ReadPixel(100, 400)) << "the selection frame is in it";
   }
 }
@@ -51,17 +50,24 @@ TEST_F(SaveAsImageTest, HiddenLayersGiveABlackPicture) {
   Command(IDM_VIEW_BOTTOM_LAYER);
   user.ChooseFile("Save As", AppPath("black.png"));
   EXPECT_NE(0, SaveAsImage());
-  const ImageClass picture = Loaded("black.png");
-  for (int32_t y = 0; y < picture.height; ++y) {
-    ASSERT_TRUE(std::all_of(picture.Row(y), picture.Row(y) + picture.width,
-                            [](uint32_t pixel) { return pixel == 0; }));
-  }
+  EXPECT_EQ("", Difference(PlainPicture(800, 520, 0), Loaded("black.png")));
 }
 
 TEST_F(SaveAsImageTest, CancellingWritesNothing) {
   user.When("Save As", [](HWND dialog) { Press(dialog, IDCANCEL); });
   EXPECT_EQ(0, SaveAsImage());
   EXPECT_STREQ("", doc.lastFilePath);
+}
+
+TEST_F(SaveAsImageTest, PathThatNoFileCanHaveIsNotProposed) {
+  for (const char* path : {"a*b.png", "what?.png", "a\"b.png", "a<b>.png", "a|b.png", "none:"}) {
+    std::strcpy(doc.lastFilePath, path);
+    user.When("Save As", [path](HWND dialog) {
+      EXPECT_EQ("", Text(dialog, cmb13)) << path;
+      Press(dialog, IDCANCEL);
+    });
+    EXPECT_EQ(0, SaveAsImage());
+  }
 }
 
 TEST_F(SaveAsImageTest, SecondTimeProposesTheFirstPath) {

@@ -81,15 +81,7 @@ TEST_F(ShpFilesTest, PaletteNeeds768BytesAndTakesNoMore) {
   EXPECT_EQ(4, palette.entries[255].blue);
 }
 
-TEST_F(ShpFilesTest, EachFailedStepHasItsMessage) {
-  ShpPalette palette;
-  const std::string missingFolder = folder_.Path("none") + "\\file";
-  for (const std::string& path : {missingFolder, folder_.Path(), std::string()}) {
-    FileClass file;
-    EXPECT_STREQ("SHP file open error!", BeginShpFile(file, path.c_str())) << path;
-    EXPECT_STREQ("Palette file create error!", WritePalFile(path.c_str(), palette)) << path;
-    EXPECT_STREQ("PAL file open error!", ReadPalFile(path.c_str(), palette)) << path;
-  }
+TEST_F(ShpFilesTest, DataForAClosedFileIsAnError) {
   FileClass closed;
   const std::vector<uint8_t> indices(kShpDataSize);
   EXPECT_STREQ("SHP file write error (Image data)!", FinishShpFile(closed, indices.data()));

@@ -50,6 +50,8 @@ TEST_F(ShpOptionsTest, ExportsWithTheNameFromTheField) {
     Type(dialog, IDC_SHP_NAME, AppPath("typed.pal"));
     Type(dialog, IDC_SHP_COLOURS, "20");
     Press(dialog, IDOK);
+    EXPECT_EQ(1, SendDlgItemMessageA(dialog, IDC_SHP_PROGRESS, PBM_GETPOS, 0, 0))
+        << "14 steps on a bar of 13: the last one starts over";
   });
   EXPECT_EQ(416032U, Shp().size());
   EXPECT_EQ(768U, ReadContent(File("typed.pal")).size());

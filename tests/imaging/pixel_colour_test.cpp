@@ -12,36 +12,37 @@ TEST(PixelColourTest, SwapRedBlueClearsTheTopByte) {
   EXPECT_EQ(0x0C0B0AU, SwapRedBlue(0xFF0A0B0C));
 }
 
-struct Change {
-  uint32_t colour, amount, result;
-};
-
-TEST(PixelColourTest, LightenMovesChannelsTowardsWhite) {
-  for (const Change& change : {Change{0x000000, 256, 0xFFFFFF}, Change{0x808080, 128, 0xBFBFBF},
-                               Change{0x12345678, 0, 0x345678}, Change{0x00FF80, 1, 0x00FF80},
-                               Change{0x010203, 255, 0xFEFEFE}, Change{0x12345678, 257, 0x12345678},
-                               Change{0x12345678, 0xFFFFFFFF, 0x12345678}}) {
-    EXPECT_EQ(change.result, Lighten(change.colour, change.amount))
-        << std::hex << change.colour << " by " << change.amount;
-  }
-}
-
-TEST(PixelColourTest, DarkenNeverReachesBlack) {
-  for (const Change& change : {Change{0xFFFFFF, 255, 0x010101}, Change{0xFF0001, 255, 0x010001},
-                               Change{0xFFFFFF, 128, 0x808080}, Change{0x808080, 128, 0x404040},
-                               Change{0x010305, 128, 0x010203}, Change{0x12345678, 0, 0x345678},
-                               Change{0x12345678, 256, 0x12345678}}) {
-    EXPECT_EQ(change.result, Darken(change.colour, change.amount))
-        << std::hex << change.colour << " by " << change.amount;
-  }
-}
-
-TEST(PixelColourTest, GreyscaleWeighsTheChannels) {
-  for (const auto& [colour, grey] :
-       {std::pair{0xFFFFFFU, 0xFEFEFEU}, std::pair{0xFF0000U, 0x4B4B4BU},
-        std::pair{0x00FF00U, 0x969696U}, std::pair{0x0000FFU, 0x1B1B1BU},
-        std::pair{0xFF010203U, 0x010101U}, std::pair{0x000000U, 0x000000U}}) {
-    EXPECT_EQ(grey, Greyscale(colour)) << std::hex << colour;
+TEST(PixelColourTest, ChannelsMoveTowardsWhiteBlackAndGrey) {
+  const auto grey = [](uint32_t colour, uint32_t) { return Greyscale(colour); };
+  const struct {
+    uint32_t (*change)(uint32_t, uint32_t);
+    uint32_t colour, amount, result;
+  } cases[] = {
+      {Lighten, 0x000000, 256, 0xFFFFFF},
+      {Lighten, 0x808080, 128, 0xBFBFBF},
+      {Lighten, 0x12345678, 0, 0x345678},
+      {Lighten, 0x00FF80, 1, 0x00FF80},
+      {Lighten, 0x010203, 255, 0xFEFEFE},
+      {Lighten, 0x12345678, 257, 0x12345678},
+      {Lighten, 0x12345678, 0xFFFFFFFF, 0x12345678},
+      // Never black.
+      {Darken, 0xFFFFFF, 255, 0x010101},
+      {Darken, 0xFF0001, 255, 0x010001},
+      {Darken, 0xFFFFFF, 128, 0x808080},
+      {Darken, 0x808080, 128, 0x404040},
+      {Darken, 0x010305, 128, 0x010203},
+      {Darken, 0x12345678, 0, 0x345678},
+      {Darken, 0x12345678, 256, 0x12345678},
+      {grey, 0xFFFFFF, 0, 0xFEFEFE},
+      {grey, 0xFF0000, 0, 0x4B4B4B},
+      {grey, 0x00FF00, 0, 0x969696},
+      {grey, 0x0000FF, 0, 0x1B1B1B},
+      {grey, 0xFF010203, 0, 0x010101},
+      {grey, 0x000000, 0, 0x000000},
+  };
+  for (const auto& row : cases) {
+    EXPECT_EQ(row.result, row.change(row.colour, row.amount))
+        << "row " << &row - cases << ": " << std::hex << row.colour;
   }
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "platform/message_log.h"
 #include "support/user.h"
 
@@ -8,12 +9,6 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr DWORD kPlainPopup = WS_POPUP;
-
-POINT ClientSize(HWND window) {
-  RECT client{};
-  GetClientRect(window, &client);
-  return {client.right, client.bottom};
-}
 
 TEST(Windows, AreBornAndSizedBeforeTheyAreShown) {
   MessageLog log({WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE, WM_SHOWWINDOW});
@@ -28,9 +23,9 @@ TEST(Windows, OverlappedOnesLearnTheirSizeWhenFirstShown) {
   const HWND window = log.Create("1", WS_OVERLAPPEDWINDOW, 10, 20, 300, 200);
   EXPECT_EQ(log.Take(), (Lines{"1 CREATE"}));
   ShowWindow(window, SW_SHOWNORMAL);
-  const POINT size = ClientSize(window);
+  const SIZE size = ClientSize(window);
   EXPECT_EQ(log.Take(),
-            (Lines{"1 SHOW", "1 SIZE " + std::to_string(size.x) + "x" + std::to_string(size.y)}));
+            (Lines{"1 SHOW", "1 SIZE " + std::to_string(size.cx) + "x" + std::to_string(size.cy)}));
   ShowWindow(window, SW_HIDE);
   ShowWindow(window, SW_SHOW);
   EXPECT_EQ(log.Take(), (Lines{"1 HIDE", "1 SHOW"}));
@@ -97,7 +92,7 @@ TEST(ScrollBars, ComeAndGoWithTheirRangeAndResizeTheWindow) {
   const HWND window = log.Create("1", kPlainPopup | WS_VISIBLE, 0, 0, 200, 100);
   log.Take();
   SetScrollRange(window, SB_HORZ, 0, 50, TRUE);
-  const LONG bar = 100 - ClientSize(window).y;
+  const LONG bar = 100 - ClientSize(window).cy;
   EXPECT_GT(bar, 5);
   EXPECT_EQ(log.Take(), (Lines{"1 SIZE 200x" + std::to_string(100 - bar)}));
   SetScrollRange(window, SB_HORZ, 0, 60, TRUE);

@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
+#include "support/file_content.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -14,13 +13,8 @@ namespace {
 class FileClassTest : public testing::Test {
  protected:
   std::string Make(const std::string& content) {
-    std::ofstream(path_, std::ios::binary) << content;
+    WriteContent(path_, content);
     return path_;
-  }
-  std::string Content() const {
-    std::ostringstream text;
-    text << std::ifstream(path_, std::ios::binary).rdbuf();
-    return text.str();
   }
   // What a read of the rest of the file gives.
   static std::string Rest(FileClass& file, uint32_t count) {
@@ -61,7 +55,7 @@ TEST_F(FileClassTest, ModeOneEmptiesAnExistingFileAndWritesOnly) {
   file.Seek(0, 0);
   EXPECT_FALSE(file.Read(&byte, 1));
   file.Close();
-  EXPECT_EQ("xyz", Content());
+  EXPECT_EQ("xyz", ReadContent(path_));
 }
 
 TEST_F(FileClassTest, OtherModesReadAndWriteAnEmptiedFile) {

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <fstream>
 
 #include "platform/win32.h"
 #include "support/case_name.h"
+#include "support/file_content.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -19,7 +19,7 @@ class IniFile {
   explicit IniFile(const std::string& text) { Write(text); }
 
   void Write(const std::string& text) {
-    std::ofstream(Path(), std::ios::binary | std::ios::trunc) << text;
+    WriteContent(Path(), text);
     loaded = reader.SetFileName(Path().c_str()) && reader.Load();
   }
   std::string Path() const { return folder_.Path("Settings.ini"); }

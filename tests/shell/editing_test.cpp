@@ -7,7 +7,7 @@
 
 namespace {
 
-struct MapKey {
+struct MovingKey {
   const char* name;
   int key;
   std::vector<BYTE> held;
@@ -15,7 +15,7 @@ struct MapKey {
 };
 
 // Negative positions count from the map's end: -1 is its last column or row.
-const MapKey kMapKeys[] = {
+const MovingKey kMapKeys[] = {
     {"Left", VK_LEFT, {}, 10, 20, 9, 20},
     {"Right", VK_RIGHT, {}, 10, 20, 11, 20},
     {"Up", VK_UP, {}, 10, 20, 10, 19},
@@ -46,7 +46,7 @@ class EditingTest : public EditorFixture {
 
   // Presses every key of the table on a map and its offsets.
   void ExpectMapMoves(int32_t& x, int32_t& y, const ImageClass& map) {
-    for (const MapKey& test : kMapKeys) {
+    for (const MovingKey& test : kMapKeys) {
       x = At(test.x, map.width);
       y = At(test.y, map.height);
       doc.canvas.Fill(1);
@@ -106,14 +106,7 @@ TEST_F(EditingTest, TargetBoxMovesUpAndDownWithinItsLimits) {
   EXPECT_EQ(0, doc.worldMapY);
 }
 
-struct ItemKey {
-  const char* name;
-  int key;
-  std::vector<BYTE> held;
-  int32_t x, y, newX, newY;
-};
-
-const ItemKey kItemKeys[] = {
+const MovingKey kItemKeys[] = {
     {"Left", VK_LEFT, {}, 100, 200, 99, 200},
     {"Right", VK_RIGHT, {VK_SHIFT}, 100, 200, 102, 200},
     {"Up", VK_UP, {VK_CONTROL}, 100, 200, 100, 195},
@@ -129,7 +122,7 @@ const ItemKey kItemKeys[] = {
 TEST_F(EditingTest, KeysMoveTheSelectedItemInsteadOfTheMap) {
   Add(0, 0);
   SelectItem(0);
-  for (const ItemKey& test : kItemKeys) {
+  for (const MovingKey& test : kItemKeys) {
     doc.items.At(0).x = test.x;
     doc.items.At(0).y = test.y;
     const HoldKeys keys(test.held);
@@ -248,17 +241,13 @@ TEST_F(EditingTest, DeletingDuringADragMovesNoOtherItem) {
   EXPECT_EQ(nullptr, GetCapture());
 }
 
-TEST_F(EditingTest, ClickOnACentredViewFindsItsItem) {
-  Add(100, 200);
-  SizeView(1000, 600);
-  Click(doc.viewWindow, 199, 240);
-  EXPECT_EQ(-1, doc.selectedItem);
-  Click(doc.viewWindow, 200, 240);
-  EXPECT_EQ(0, doc.selectedItem);
-}
-
-TEST_F(EditingTest, ClickOnAScrolledViewFindsItsItem) {
+TEST_F(EditingTest, ClickOnACentredOrScrolledViewFindsItsItem) {
   Add(300, 400);
+  SizeView(1000, 600);
+  Click(doc.viewWindow, 399, 440);
+  EXPECT_EQ(-1, doc.selectedItem);
+  Click(doc.viewWindow, 400, 440);
+  EXPECT_EQ(0, doc.selectedItem);
   SizeView(600, 400);
   SendMessageA(doc.viewWindow, WM_HSCROLL, MAKELONG(SB_THUMBPOSITION, 150), 0);
   SendMessageA(doc.viewWindow, WM_VSCROLL, MAKELONG(SB_THUMBPOSITION, 60), 0);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "document/item_operations.h"
 #include "imagelib/imagelib.h"
 #include "shell/startup.h"
@@ -29,11 +30,6 @@ class MainWindowTest : public EditorFixture {
     return lines;
   }
 
-  static RECT Client(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return client;
-  }
   // Size of a window with its frame.
   static SIZE Size(HWND window) {
     RECT bounds{};
@@ -126,30 +122,30 @@ TEST_F(MainWindowTest, LayerCommandsToggleOneLayerEach) {
 }
 
 TEST_F(MainWindowTest, ViewFillsWhatTheStatusBarLeaves) {
-  const RECT client = Client(doc.mainWindow);
+  const SIZE client = ClientSize(doc.mainWindow);
   const LONG bar = Size(doc.statusBar).cy;
   EXPECT_GT(bar, 0);
-  EXPECT_EQ(client.right, Size(doc.viewWindow).cx);
-  EXPECT_EQ(client.bottom - bar, Size(doc.viewWindow).cy);
+  EXPECT_EQ(client.cx, Size(doc.viewWindow).cx);
+  EXPECT_EQ(client.cy - bar, Size(doc.viewWindow).cy);
   Command(IDM_STATUS_BAR);
   EXPECT_FALSE(IsCommandChecked(IDM_STATUS_BAR));
   EXPECT_FALSE(IsWindowVisible(doc.statusBar));
-  EXPECT_EQ(client.bottom, Size(doc.viewWindow).cy);
+  EXPECT_EQ(client.cy, Size(doc.viewWindow).cy);
   SetWindowPos(doc.mainWindow, nullptr, 0, 0, 640, 480, SWP_NOMOVE | SWP_NOZORDER);
-  EXPECT_EQ(Client(doc.mainWindow).bottom, Size(doc.viewWindow).cy);
+  EXPECT_EQ(ClientSize(doc.mainWindow).cy, Size(doc.viewWindow).cy);
   Command(IDM_STATUS_BAR);
   EXPECT_TRUE(IsCommandChecked(IDM_STATUS_BAR));
   EXPECT_TRUE(IsWindowVisible(doc.statusBar));
-  EXPECT_EQ(Client(doc.mainWindow).bottom - bar, Size(doc.viewWindow).cy);
-  EXPECT_EQ(Client(doc.mainWindow).right, Size(doc.viewWindow).cx);
+  EXPECT_EQ(ClientSize(doc.mainWindow).cy - bar, Size(doc.viewWindow).cy);
+  EXPECT_EQ(ClientSize(doc.mainWindow).cx, Size(doc.viewWindow).cx);
 }
 
 TEST_F(MainWindowTest, ResizingLaysOutAgain) {
   for (const auto& [width, height] : {std::pair(1100, 700), std::pair(500, 300)}) {
     SetWindowPos(doc.mainWindow, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-    const RECT client = Client(doc.mainWindow);
-    EXPECT_EQ(client.right, Size(doc.viewWindow).cx);
-    EXPECT_EQ(client.bottom - Size(doc.statusBar).cy, Size(doc.viewWindow).cy);
+    const SIZE client = ClientSize(doc.mainWindow);
+    EXPECT_EQ(client.cx, Size(doc.viewWindow).cx);
+    EXPECT_EQ(client.cy - Size(doc.statusBar).cy, Size(doc.viewWindow).cy);
     RECT bar{}, view{};
     GetWindowRect(doc.statusBar, &bar);
     GetWindowRect(doc.viewWindow, &view);

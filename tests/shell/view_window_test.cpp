@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/dialog.h"
 #include "document/shell_calls.h"
 #include "imaging/memory_dc.h"
 #include "support/editor_fixture.h"
@@ -24,11 +25,6 @@ class ViewTest : public EditorFixture {
   }
   static void Scroll(UINT message, int code, int thumb = 0) {
     SendMessageA(doc.viewWindow, message, static_cast<WPARAM>(MAKELONG(code, thumb)), 0);
-  }
-  static SIZE Client() {
-    RECT client{};
-    GetClientRect(doc.viewWindow, &client);
-    return {client.right, client.bottom};
   }
 };
 
@@ -60,7 +56,7 @@ TEST_F(ViewTest, BarsThatComeTogetherLeaveNothingUnreachable) {
        {std::pair(600, 400), std::pair(1000, 600), std::pair(810, 400), std::pair(600, 530),
         std::pair(1000, 600), std::pair(805, 525), std::pair(790, 525)}) {
     SetWindowPos(doc.viewWindow, nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    const SIZE client = Client();
+    const SIZE client = ClientSize(doc.viewWindow);
     EXPECT_EQ(std::min<int>(client.cx, 800), doc.viewVisibleWidth) << width << " x " << height;
     EXPECT_EQ(std::min<int>(client.cy, 520), doc.viewVisibleHeight) << width << " x " << height;
     ExpectRanges(client.cx, client.cy, std::to_string(width) + " x " + std::to_string(height));

@@ -2,8 +2,8 @@
 
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 
+#include "dialogs/dialog.h"
 #include "export/shp_export.h"
 #include "export/shp_options.h"
 #include "imagelib/imagelib.h"
@@ -11,6 +11,7 @@
 #include "shell/main_window.h"
 #include "shell/startup.h"
 #include "shell/view_window.h"
+#include "support/file_content.h"
 
 namespace {
 
@@ -21,15 +22,6 @@ const TempFolder& DefaultTemplates() {
   static const TempFolder folder;
   if (fs::is_empty(folder.Path())) WriteTemplates(folder.Path(), {});
   return folder;
-}
-
-bool operator==(PictureSize a, PictureSize b) { return a.width == b.width && a.height == b.height; }
-
-bool IsDefault(const TemplateSizes& sizes) {
-  const TemplateSizes usual;
-  return sizes.worldMap == usual.worldMap && sizes.zoomedMap == usual.zoomedMap &&
-         sizes.frame == usual.frame && sizes.targetBox == usual.targetBox &&
-         sizes.overlay == usual.overlay;
 }
 
 // Handles what is still in the queue, but for the end of the message loop, which would otherwise
@@ -65,7 +57,7 @@ EditorFixture::EditorFixture() {
 EditorFixture::~EditorFixture() { SetCurrentDirectoryA(previousDirectory_); }
 
 void EditorFixture::SetUp() {
-  if (IsDefault(Sizes())) {
+  if (Sizes() == TemplateSizes()) {
     WriteDefaultTemplates();
   } else {
     WriteTemplates(AppPath("Templates"), Sizes());
@@ -98,7 +90,7 @@ void EditorFixture::TearDown() {
 }
 
 void EditorFixture::WriteSettings(const std::string& text) {
-  std::ofstream(File("Settings.ini"), std::ios::binary) << text;
+  WriteContent(File("Settings.ini"), text);
 }
 
 std::string EditorFixture::WritePng(const std::string& name, const BitmapClass& picture) {
@@ -153,13 +145,13 @@ bool EditorFixture::IsCommandEnabled(UINT id) const {
 void EditorFixture::SizeView(int clientWidth, int clientHeight) {
   // Scroll bars come and go with the size, so it takes a few rounds.
   for (int round = 0; round < 4; ++round) {
-    RECT window{}, client{};
+    RECT window{};
     GetWindowRect(doc.viewWindow, &window);
-    GetClientRect(doc.viewWindow, &client);
-    if (client.right == clientWidth && client.bottom == clientHeight) return;
+    const SIZE client = ClientSize(doc.viewWindow);
+    if (client.cx == clientWidth && client.cy == clientHeight) return;
     SetWindowPos(
-        doc.viewWindow, nullptr, 0, 0, clientWidth + (window.right - window.left - client.right),
-        clientHeight + (window.bottom - window.top - client.bottom), SWP_NOZORDER | SWP_NOACTIVATE);
+        doc.viewWindow, nullptr, 0, 0, clientWidth + (window.right - window.left - client.cx),
+        clientHeight + (window.bottom - window.top - client.cy), SWP_NOZORDER | SWP_NOACTIVATE);
   }
   ADD_FAILURE() << "The view can't be made " << clientWidth << " x " << clientHeight;
 }

@@ -6,17 +6,13 @@
 #include <deque>
 #include <thread>
 
+#include "support/find_window.h"
+
 namespace {
 
 constexpr UINT kTickTime = 10;   // milliseconds
 constexpr int kPatience = 1000;  // ticks without anything happening
 constexpr int kMostMessages = 10000;
-
-std::string ClassOf(HWND window) {
-  char name[64] = "";
-  GetClassNameA(window, name, sizeof name);
-  return name;
-}
 
 struct Search {
   std::string caption;
@@ -219,7 +215,7 @@ void Slide(HWND dialog, int id, int position) {
 void PressKey(HWND window, int virtualKey) {
   HWND dialog = window;
   while (dialog && ClassOf(dialog) != "#32770") dialog = GetParent(dialog);
-  for (const UINT message : {WM_KEYDOWN, WM_KEYUP}) {
+  for (const UINT message : {UINT{WM_KEYDOWN}, UINT{WM_KEYUP}}) {
     if (!IsWindow(window)) return;
     MSG key{window, message, static_cast<WPARAM>(virtualKey), 1, 0, {0, 0}};
     if (!dialog || !IsDialogMessageA(dialog, &key)) DispatchMessageA(&key);
@@ -233,15 +229,7 @@ void Click(HWND window, int x, int y) {
 
 void SelectFile(HWND fileDialog, const std::string& path) {
   SendMessageA(fileDialog, CDM_SETCONTROLTEXT, cmb13, reinterpret_cast<LPARAM>(path.c_str()));
-  HWND child = nullptr;
-  EnumChildWindows(
-      fileDialog,
-      [](HWND window, LPARAM param) -> BOOL {
-        if (ClassOf(window) != "#32770") return TRUE;
-        *reinterpret_cast<HWND*>(param) = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&child));
+  const HWND child = FindChild(fileDialog, "#32770");
   if (!child) {
     ADD_FAILURE() << "\"" << Text(fileDialog) << "\" has no extension";
     return;

@@ -13,9 +13,9 @@
 // loop waits: a dialog's, a message box's, the main window's.
 //
 //   User user;
-//   user.When("Select item", [](HWND dialog) { Choose(dialog, 1008, 0); Press(dialog, IDCANCEL);
-//   }); user.Answer("Corvanta", "Nothing there!", MB_ICONEXCLAMATION, IDOK); OpenTheDialog();  //
-//   returns once the script has closed it
+//   user.When("Select item", [](HWND dialog) { Press(dialog, IDCANCEL); });
+//   user.Answer("Corvanta", "Nothing there!", MB_ICONEXCLAMATION, IDOK);
+//   OpenTheDialog();  // returns once the script has closed it
 //
 // Steps run in the order given, each one as soon as its window is there, visible and enabled, and
 // nothing else is to be done. A step may press a button that opens a further window: the next step

@@ -136,22 +136,16 @@
 #define SWP_NOCOPYBITS 0x0100
 #define RDW_INVALIDATE 1
 #define RDW_ERASE 4
-#define RDW_VALIDATE 8
 #define RDW_ALLCHILDREN 0x80
-#define RDW_UPDATENOW 0x0100
-#define RDW_ERASENOW 0x0200
 #define RDW_FRAME 0x0400
 #define AW_HIDE 0x00010000
 #define AW_BLEND 0x00080000
 #define GWL_STYLE (-16)
 #define GWL_EXSTYLE (-20)
 #define GWLP_WNDPROC (-4)
-#define GWLP_HINSTANCE (-6)
-#define GWLP_HWNDPARENT (-8)
 #define GWLP_USERDATA (-21)
 #define GWLP_ID (-12)
 #define DWLP_MSGRESULT 0
-#define DWLP_DLGPROC 8
 #define DWLP_USER 0x10
 #define PM_REMOVE 1
 
@@ -218,7 +212,6 @@
 #define KEYEVENTF_KEYUP 2
 
 // Dialogs
-#define DS_ABSALIGN 1
 #define DS_3DLOOK 4
 #define DS_SETFONT 0x40
 #define DS_MODALFRAME 0x80
@@ -332,10 +325,6 @@
 #define TBM_SETRANGE 0x0406
 #define TB_LINEUP 0
 #define TB_LINEDOWN 1
-#define TB_PAGEUP 2
-#define TB_PAGEDOWN 3
-#define TB_TOP 6
-#define TB_BOTTOM 7
 #define TB_ENDTRACK 8
 
 // Up-down controls

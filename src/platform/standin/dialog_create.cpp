@@ -30,7 +30,7 @@ RECT FrameOf(const DialogTemplate& dialog, DWORD style, DWORD exStyle, const Win
   const int fullHeight = height + 1000 - probe.ClientHeight();
   if (dialog.style & DS_CENTER) return CentredOnScreen(fullWidth, fullHeight);
   POINT place{PixelsX(dialog.x), PixelsY(dialog.y)};
-  if (owner && !(style & (WS_CHILD | DS_ABSALIGN))) {
+  if (owner && !(style & WS_CHILD)) {
     const POINT origin = ClientOrigin(*owner);
     place.x += origin.x;
     place.y += origin.y;

@@ -8,7 +8,7 @@
 
 #include "platform/standin/failure.h"
 #include "platform/standin/handles.h"
-#include "platform/standin/testing.h"
+#include "platform/standin/native_path.h"
 #include "platform/win32.h"
 
 namespace {

@@ -94,6 +94,8 @@ Pixels* TargetOf(DeviceContext& dc);
 uint32_t PixelOf(COLORREF colour);
 COLORREF ColourOf(uint32_t pixel);
 
+// A brush that stays, as the system's own do.
+HBRUSH AddBrush(COLORREF colour);
 // The colour of a brush handle; a small number stands for a system colour plus one.
 COLORREF BrushColour(HBRUSH brush);
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "platform/standin/failure.h"
-#include "platform/standin/testing.h"
+#include "platform/standin/native_path.h"
 #include "platform/win32.h"
 
 namespace {

@@ -5,8 +5,6 @@
 
 namespace standin {
 
-HBRUSH AddBrush(COLORREF colour);
-
 COLORREF BrushColour(HBRUSH brush) {
   const auto index = reinterpret_cast<uintptr_t>(brush);
   if (index > 0 && index <= 31) return GetSysColor(static_cast<int>(index) - 1);

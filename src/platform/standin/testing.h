@@ -7,9 +7,6 @@
 
 namespace standin {
 
-// Path separators and the file system's own form of a Win32 path: every backslash becomes a slash.
-std::string NativePath(const char* path);
-
 // The last ShellExecuteA: nothing is started, the call is only kept.
 struct ShellRequest {
   int count = 0;

@@ -22,7 +22,6 @@ void Tell(const Window& bar, int code) {
 
 // The scroll code of a key and where it takes the thumb; false for other keys.
 bool TargetOf(const TrackbarState& state, WPARAM key, int& code, int& position) {
-  const int page = std::max(1, (state.maximum - state.minimum) / 5);
   switch (key) {
     case VK_LEFT:
     case VK_UP:
@@ -33,22 +32,6 @@ bool TargetOf(const TrackbarState& state, WPARAM key, int& code, int& position) 
     case VK_DOWN:
       code = TB_LINEDOWN;
       position = state.position + 1;
-      return true;
-    case VK_PRIOR:
-      code = TB_PAGEUP;
-      position = state.position - page;
-      return true;
-    case VK_NEXT:
-      code = TB_PAGEDOWN;
-      position = state.position + page;
-      return true;
-    case VK_HOME:
-      code = TB_TOP;
-      position = state.minimum;
-      return true;
-    case VK_END:
-      code = TB_BOTTOM;
-      position = state.maximum;
       return true;
     default:
       return false;
@@ -94,9 +77,6 @@ LRESULT TrackbarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_KEYUP:
       Key(*bar, wParam, false);
-      return 0;
-    case WM_LBUTTONDOWN:
-      SetFocus(handle);
       return 0;
     default:
       return DefaultControlProc(handle, message, wParam, lParam);

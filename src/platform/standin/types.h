@@ -6,9 +6,7 @@
 
 #define CALLBACK
 #define WINAPI
-#define APIENTRY
 
-#define CONST const
 typedef void VOID;
 typedef char CHAR;
 typedef unsigned char BYTE;
@@ -31,19 +29,15 @@ typedef LONG_PTR LPARAM;
 typedef LONG_PTR LRESULT;
 typedef DWORD COLORREF;
 
-typedef void* PVOID;
 typedef void* LPVOID;
 typedef const void* LPCVOID;
 typedef char* LPSTR;
 typedef const char* LPCSTR;
-typedef BYTE* PBYTE;
-typedef BYTE* LPBYTE;
 typedef int* LPINT;
 typedef LONG* PLONG;
 typedef DWORD* LPDWORD;
 
 typedef void* HANDLE;
-typedef HANDLE HGLOBAL;
 typedef void* HGDIOBJ;
 
 // Handles of different kinds are different types, as under STRICT.
@@ -74,7 +68,7 @@ typedef UINT_PTR(CALLBACK* LPOFNHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
 typedef struct tagPOINT {
   LONG x;
   LONG y;
-} POINT, *LPPOINT;
+} POINT;
 
 typedef struct tagSIZE {
   LONG cx;
@@ -87,7 +81,6 @@ typedef struct tagRECT {
   LONG right;
   LONG bottom;
 } RECT, *LPRECT;
-typedef const RECT* LPCRECT;
 
 typedef struct tagMSG {
   HWND hwnd;
@@ -143,13 +136,13 @@ typedef struct tagMINMAXINFO {
   POINT ptMaxPosition;
   POINT ptMinTrackSize;
   POINT ptMaxTrackSize;
-} MINMAXINFO, *LPMINMAXINFO;
+} MINMAXINFO;
 
 typedef struct tagNMHDR {
   HWND hwndFrom;
   UINT_PTR idFrom;
   UINT code;
-} NMHDR, *LPNMHDR;
+} NMHDR;
 
 typedef struct tagBITMAP {
   LONG bmType;
@@ -242,4 +235,4 @@ typedef struct _OFNOTIFYA {
   NMHDR hdr;
   LPOPENFILENAMEA lpOFN;
   LPSTR pszFile;
-} OFNOTIFYA, *LPOFNOTIFYA;
+} OFNOTIFYA;

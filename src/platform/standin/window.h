@@ -13,7 +13,6 @@ namespace standin {
 
 struct WindowClass {
   std::string name;
-  UINT style = 0;
   WNDPROC proc = nullptr;
   HBRUSH background = nullptr;
   LPCSTR menu = nullptr;  // a resource number, or null

@@ -1,5 +1,6 @@
 #include <strings.h>
 
+#include <algorithm>
 #include <map>
 
 #include "platform/standin/controls.h"
@@ -43,6 +44,15 @@ void RegisterSystemClasses() {
   RegisterSystemClass(PROGRESS_CLASSA, ProgressBarProc);
 }
 
+// Whether one of the windows, or one below them, is of the class.
+bool HasWindow(const std::vector<HWND>& windows, const WindowClass& windowClass) {
+  return std::any_of(windows.begin(), windows.end(), [&](HWND handle) {
+    const auto window = FindWindowPtr(handle);
+    return window &&
+           (window->windowClass.get() == &windowClass || HasWindow(window->children, windowClass));
+  });
+}
+
 }  // namespace
 
 std::shared_ptr<WindowClass> FindClass(LPCSTR name) {
@@ -69,7 +79,6 @@ ATOM RegisterClassExA(const WNDCLASSEXA* description) {
     Unsupported("window classes have no extra bytes");
   auto windowClass = std::make_shared<WindowClass>();
   windowClass->name = description->lpszClassName;
-  windowClass->style = description->style;
   windowClass->proc = description->lpfnWndProc;
   windowClass->background = description->hbrBackground;
   windowClass->menu = description->lpszMenuName;
@@ -84,8 +93,7 @@ BOOL UnregisterClassA(LPCSTR name, HINSTANCE) {
     SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
     return FALSE;
   }
-  // The table and this function hold one reference each; every window of the class one more.
-  if (windowClass.use_count() > 2) {
+  if (HasWindow(TopLevelWindows(), *windowClass)) {
     SetLastError(ERROR_CLASS_HAS_WINDOWS);
     return FALSE;
   }

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/standin/failure.h"
 #include "platform/standin/window.h"
 
 namespace standin {
@@ -123,16 +124,9 @@ BOOL InvalidateRect(HWND handle, const RECT* rect, BOOL erase) {
 BOOL ValidateRect(HWND handle, const RECT* rect) {
   const auto window = FindWindowPtr(handle);
   if (!window) return FALSE;
-  if (!rect) {
-    window->update = {};
-    window->erase = false;
-    return TRUE;
-  }
-  // The part to be painted is one rectangle: only a cover of the whole of it validates.
-  const RECT joined = Union(*rect, window->update);
-  if (joined.left == rect->left && joined.top == rect->top && joined.right == rect->right &&
-      joined.bottom == rect->bottom)
-    window->update = {};
+  if (rect) Unsupported("ValidateRect validates whole windows only");
+  window->update = {};
+  window->erase = false;
   return TRUE;
 }
 
@@ -141,13 +135,7 @@ BOOL RedrawWindow(HWND handle, const RECT* rect, HRGN, UINT flags) {
   if (!window) return FALSE;
   if (flags & RDW_INVALIDATE)
     InvalidateTree(*window, rect, flags & RDW_ERASE, flags & RDW_ALLCHILDREN);
-  if (flags & RDW_VALIDATE) ValidateRect(handle, rect);
-  if (flags & RDW_UPDATENOW) return UpdateWindow(handle);
-  if ((flags & RDW_ERASENOW) && window->erase && IsWindowVisible(handle)) {
-    window->erase = false;
-    const HDC dc = OpenWindowDC(handle, &window->update);
-    SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-    CloseWindowDC(dc);
-  }
+  if (flags & ~UINT{RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_FRAME})
+    Unsupported("RedrawWindow flags " + std::to_string(flags));
   return TRUE;
 }

@@ -70,13 +70,6 @@ LONG_PTR GetWindowLongPtrA(HWND handle, int index) {
       return window->exStyle;
     case GWLP_WNDPROC:
       return reinterpret_cast<LONG_PTR>(window->proc);
-    case GWLP_HINSTANCE:
-      return reinterpret_cast<LONG_PTR>(window->instance);
-    case GWLP_HWNDPARENT:
-      return reinterpret_cast<LONG_PTR>(window->parent);
-    case DWLP_DLGPROC:
-      if (window->dialog) return reinterpret_cast<LONG_PTR>(window->dialog->proc);
-      [[fallthrough]];
     default:
       Unsupported("GetWindowLongPtrA index " + std::to_string(index));
   }
@@ -99,9 +92,6 @@ LONG_PTR SetWindowLongPtrA(HWND handle, int index, LONG_PTR value) {
       break;
     case GWLP_WNDPROC:
       window->proc = reinterpret_cast<WNDPROC>(value);
-      break;
-    case DWLP_DLGPROC:
-      window->dialog->proc = reinterpret_cast<DLGPROC>(value);
       break;
     default:
       Unsupported("SetWindowLongPtrA index " + std::to_string(index));
