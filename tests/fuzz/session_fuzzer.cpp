@@ -1,0 +1,304 @@
+// Any session of a user with the running editor, one action after another in whatever window
+// stands: what the document promises holds after each of them, the editor can always be left, and
+// nothing of it remains.
+#include <algorithm>
+#include <filesystem>
+
+#include "fuzz/fuzz_target.h"
+#include "fuzz/session_checks.h"
+#include "platform/standin/native_path.h"
+#include "platform/standin/testing.h"
+#include "support/editor_fixture.h"
+#include "support/file_content.h"
+#include "support/find_window.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr size_t kMostActions = 400;
+constexpr size_t kActionsPerPicture = 4;
+constexpr char kOpenCaption[] = "Choose file to open";
+
+constexpr UINT kCommands[] = {
+    IDM_SAVE_AS_SHP,       IDM_SAVE_AS_IMAGE, IDM_EXIT,           IDM_SELECT_ITEM,
+    IDM_DELETE_ITEM,       IDM_UNSELECT_ITEM, IDM_COPY,           IDM_VIEW_TOP_LAYER,
+    IDM_VIEW_BOTTOM_LAYER, IDM_STATUS_BAR,    IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP,
+    IDM_MOVE_TARGET_BOX,   IDM_HELP,          IDM_ABOUT};
+constexpr UINT kDialogs[] = {IDM_ADD_ITEM, IDM_LOAD_SCREEN_SETTINGS, IDM_SCREENSHOT_SETTINGS};
+constexpr UINT kMouseMessages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_MOUSEMOVE,
+                                   WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
+// None is a template without which the editor ends itself.
+constexpr const char* kFileNames[] = {"exact.png", "large.png", "wide.png",  "small.png",
+                                      "broken",    "missing",   "Templates", "new\\file.bmp",
+                                      "out.bmp",   "out.jpg",   "out.shp",   "out.pal",
+                                      "good.pal",  "a?b",       "",          "."};
+constexpr TemplateSizes kSizes[] = {
+    {},
+    {{40, 30}, {10, 7}, {8, 8}, {3, 3}, {20, 20}},
+    {{1024, 600}, {300, 1000}, {500, 300}, {300, 400}, {800, 520}},
+};
+constexpr char kSettings[] =
+    "[SymbolsList]\r\n1=Dot,dot.png\r\n2=Star,star.png\r\n3=Line,line.png\r\n4=Huge,huge.png\r\n"
+    "5=Gone,gone.png\r\n6=Broken,..\\broken\r\n"
+    "[CameosList]\r\n1=One, cameo.png\r\n2=Two, cameo.png\r\n3=Star, star.png\r\n4=Gone, gone.png";
+
+// The input as a row of choices; 0 once it has ended.
+class Choices {
+ public:
+  Choices(const uint8_t* data, size_t size) : next_(data), end_(data + size) {}
+  bool Left() const { return next_ != end_; }
+  int Below(int end) {
+    int number = 0;
+    for (int range = 1; range < end && Left(); range *= 256) number = number * 256 + *next_++;
+    return number % end;
+  }
+  bool Chance(int outOf) { return Below(outOf) == outOf - 1; }
+  template <class List>
+  const auto& From(const List& list) {
+    return *(std::begin(list) + Below(static_cast<int>(std::size(list))));
+  }
+
+ private:
+  const uint8_t* next_;
+  const uint8_t* end_;
+};
+
+// Windows that the user can work with; labels without a number are none.
+BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+  const bool label =
+      ClassOf(window) == "Static" && static_cast<WORD>(GetDlgCtrlID(window)) == 0xFFFF;
+  if (IsWindowVisible(window) && IsWindowEnabled(window) && !label)
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
+}
+
+std::vector<HWND> StandingWindows() {
+  std::vector<HWND> windows;
+  EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+class Session : public EditorFixture {
+ public:
+  explicit Session(Choices choices) : choices_(choices) { current = this; }
+  ~Session() override { current = nullptr; }
+
+  // Runs the editor until its user has left it.
+  void Run() {
+    SetUp();
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) {
+      if (current) current->Act();
+    });
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+      TranslateMessage(&message);
+      DispatchMessageA(&message);
+    }
+    Require(mayEnd_, "only its user ends the editor");
+    KillTimer(nullptr, timer);
+    for (const BYTE key : {BYTE{VK_SHIFT}, BYTE{VK_CONTROL}})
+      keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    TearDown();
+  }
+
+ private:
+  void TestBody() override {}
+  TemplateSizes Sizes() const override { return kSizes[sizes_]; }
+
+  // The files of an application folder, made once for each set of templates.
+  const TempFolder& Files() {
+    static TempFolder folders[std::size(kSizes)];
+    const TempFolder& folder = folders[sizes_];
+    if (!fs::is_empty(folder.Path())) return folder;
+    fs::create_directory(folder.Path("Templates"));
+    WriteTemplates(folder.Path("Templates"), Sizes());
+    WriteContent(folder.Path("Settings.ini"), kSettings);
+    WriteContent(folder.Path("Templates/readme.txt"), "First line\r\nSecond line\r\n");
+    WriteContent(folder.Path("broken"), "no picture");
+    WriteContent(folder.Path("good.pal"), std::string(768, '?'));
+    const struct {
+      const char* name;
+      int32_t width, height;
+    } pictures[] = {{"Templates\\dot.png", 1, 1},     {"Templates\\star.png", 75, 60},
+                    {"Templates\\line.png", 800, 1},  {"Templates\\huge.png", 900, 600},
+                    {"Templates\\cameo.png", 76, 60}, {"exact.png", 234, 232},
+                    {"large.png", 300, 260},          {"wide.png", 3000, 232},
+                    {"small.png", 233, 500}};
+    for (const auto& picture : pictures) {
+      const std::string path = WritePng(
+          picture.name, MakePicture(picture.width, picture.height, [](int32_t x, int32_t y) {
+            return (x + y) % 5 ? static_cast<uint32_t>(x << 12 ^ y * 77) & 0xFFFFFF : kKeyColour;
+          }));
+      fs::copy_file(standin::NativePath(path.c_str()),
+                    standin::NativePath(folder.Path(picture.name).c_str()));
+    }
+    return folder;
+  }
+
+  void SetUp() override {
+    sizes_ = static_cast<size_t>(choices_.Below(static_cast<int>(std::size(kSizes))));
+    fs::copy(Files().Path(), File("."),
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    if (choices_.Chance(16)) WriteSettings("[Other]");
+    SetCurrentDirectoryA(AppPath(".").c_str());
+    ASSERT_TRUE(Start());
+  }
+
+  // One action in the window that stands, after a look at what the last one has left.
+  void Act() {
+    Require(IsWindow(doc.mainWindow), "the editor runs");
+    CheckDocument();
+    const std::vector<HWND> standing = StandingWindows();
+    Require(standing.size() <= 1, "one window at a time takes input");
+    if (standing.empty()) return;
+    if (++actions_ % kActionsPerPicture == 0) CheckComposition(standing[0] == doc.mainWindow);
+    Require(standing[0] != doc.mainWindow || GetFocus() == doc.mainWindow, "the keys arrive");
+    if (!choices_.Left() || actions_ > kMostActions) {
+      Leave(standing[0]);
+    } else if (standing[0] == doc.mainWindow) {
+      WorkMainWindow();
+    } else {
+      WorkDialog(standing[0]);
+    }
+  }
+
+  void Leave(HWND window) {
+    if (window == doc.mainWindow) mayEnd_ = true;
+    const HWND yes = GetDlgItem(window, IDYES);
+    SendMessageA(yes ? yes : window, yes ? BM_CLICK : WM_CLOSE, 0, 0);
+  }
+
+  void WorkMainWindow() {
+    switch (choices_.Below(8)) {
+      case 0:
+      case 1:
+      case 2:
+        return ChooseCommand();
+      case 3:
+        return PressKey(doc.mainWindow, SomeKey());
+      case 4:
+        return keybd_event(choices_.Chance(2) ? VK_SHIFT : VK_CONTROL, 0,
+                           choices_.Chance(2) ? KEYEVENTF_KEYUP : 0, 0);
+      case 5:
+        return choices_.Chance(2) ? Scroll() : Resize(doc.mainWindow);
+      default:
+        return UseMouse();
+    }
+  }
+
+  void ChooseCommand() {
+    const UINT command = choices_.Chance(2) ? choices_.From(kDialogs) : choices_.From(kCommands);
+    if (!IsCommandEnabled(command) || (command == IDM_EXIT && !choices_.Chance(8))) return;
+    if (command == IDM_EXIT) mayEnd_ = true;
+    Command(command);
+  }
+
+  // Places outside the view too, which a held mouse reports.
+  void UseMouse() {
+    int x = choices_.Below(1000) - 50, y = choices_.Below(700) - 50;
+    if (!choices_.Chance(4) && doc.items.Count()) {
+      const ItemClass& item = doc.items.At(choices_.Below(doc.items.Count()));
+      x = item.x + x % (item.image.width + 2) + doc.viewOffsetX - doc.viewScrollX;
+      y = item.y + y % (item.image.height + 2) + doc.viewOffsetY - doc.viewScrollY;
+    }
+    if (choices_.Chance(16)) ReleaseCapture();
+    SendMessageA(doc.viewWindow, choices_.From(kMouseMessages), MK_LBUTTON, MAKELPARAM(x, y));
+  }
+
+  void Scroll() {
+    const bool across = choices_.Chance(2);
+    const LONG_PTR style = GetWindowLongPtrA(doc.viewWindow, GWL_STYLE);
+    if (!(style & (across ? WS_HSCROLL : WS_VSCROLL))) return;
+    int first = 0, last = 0;
+    GetScrollRange(doc.viewWindow, across ? SB_HORZ : SB_VERT, &first, &last);
+    const int code = choices_.Below(SB_ENDSCROLL + 1),
+              thumb = first + choices_.Below(last - first + 1);
+    SendMessageA(doc.viewWindow, across ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(code, thumb), 0);
+  }
+
+  void Resize(HWND window) {
+    SetWindowPos(window, nullptr, 0, 0, choices_.Below(1300), choices_.Below(1050),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  void WorkDialog(HWND dialog) {
+    std::vector<HWND> controls;
+    EnumChildWindows(dialog, Collect, reinterpret_cast<LPARAM>(&controls));
+    const int action = choices_.Below(16);
+    if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) {
+      ChooseFile(dialog);
+    } else if (action == 0) {
+      SendMessageA(dialog, WM_CLOSE, 0, 0);
+    } else if (action == 1 && (GetWindowLongPtrA(dialog, GWL_STYLE) & WS_THICKFRAME)) {
+      Resize(dialog);
+    } else if (action < 4) {
+      const HWND focus = GetFocus();
+      PressKey(IsWindow(focus) && focus != doc.mainWindow ? focus : dialog, SomeKey());
+    } else if (action == 4 && GetDlgItem(dialog, IDOK) && IsEnabled(dialog, IDOK)) {
+      Press(dialog, IDOK);
+    } else if (!controls.empty()) {
+      WorkControl(choices_.From(controls));
+    }
+  }
+
+  void ChooseFile(HWND dialog) {
+    const std::string name = SomeText();
+    if (Text(dialog) == kOpenCaption && choices_.Chance(2)) return SelectFile(dialog, name);
+    Type(dialog, cmb13, name);
+    Press(dialog, IDOK);
+  }
+
+  void WorkControl(HWND control) {
+    const std::string kind = ClassOf(control);
+    const HWND parent = GetParent(control);
+    const int id = GetDlgCtrlID(control);
+    if (kind == "Button") {
+      if ((GetWindowLongPtrA(control, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) Press(parent, id);
+    } else if (kind == "Edit") {
+      Type(parent, id, SomeText());
+    } else if (kind == "ListBox" || kind == "ComboBox") {
+      const auto count = static_cast<int>(Items(parent, id).size());
+      if (count > 0) Choose(parent, id, choices_.Below(count));
+    } else if (kind == "msctls_trackbar32") {
+      Slide(parent, id, choices_.Below(512));
+    } else {
+      Click(control, choices_.Below(600), choices_.Below(400));
+    }
+  }
+
+  // Half of them arrows, and no letters.
+  int SomeKey() {
+    return choices_.Chance(2) ? VK_LEFT + choices_.Below(4)
+                              : VK_BACK + choices_.Below(VK_DELETE + 1 - VK_BACK);
+  }
+
+  std::string SomeText() {
+    if (choices_.Chance(8)) return std::string(static_cast<size_t>(choices_.Below(320)), 'n');
+    if (choices_.Chance(4)) return std::to_string(choices_.Below(400));
+    const std::string name = choices_.From(kFileNames);
+    return choices_.Chance(2) ? AppPath(name) : name;
+  }
+
+  static inline Session* current = nullptr;
+  Choices choices_;
+  size_t sizes_ = 0;
+  size_t actions_ = 0;
+  bool mayEnd_ = false;
+};
+
+}  // namespace
+
+std::vector<std::string> FuzzSeeds() { return {}; }
+
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  // A failed expectation of the test support ends the process here, where no test counts it.
+  GTEST_FLAG_SET(throw_on_failure, true);
+  const size_t before = standin::LiveGdiObjects();
+  Session(Choices(data, size)).Run();
+  Require(StandingWindows().empty(), "no window is left");
+  Require(OpenClipboard(nullptr) && EmptyClipboard() && CloseClipboard(),
+          "nobody holds the clipboard");
+  Require(standin::LiveGdiObjects() == before, "no GDI object is left");
+  return 0;
+}
