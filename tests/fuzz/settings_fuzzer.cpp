@@ -78,6 +78,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string folder = Folder().Path("");
   std::copy(folder.begin(), folder.end() + 1, doc.appDir);
   const std::string path = Folder().Path("Settings.ini");
+  // Some file systems wait for the disk when a file is replaced.
+  std::remove(path.c_str());
   WriteContent(path, std::string(reinterpret_cast<const char*>(data), size));
   IniClass settings(path.c_str());
   Require(settings.Load(), "the file is read");
