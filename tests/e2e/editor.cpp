@@ -170,11 +170,6 @@ void Editor::Press(WORD key, std::initializer_list<WORD> held) const {
             [&] { return !Difference(before, ShownPicture()).empty(); });
 }
 
-void Editor::ClickPicture(POINT at) const {
-  Main().BringToFront();
-  Click(OnScreen(at));
-}
-
 bool Editor::ViewHasMouse() const {
   GUITHREADINFO state{};
   state.cbSize = sizeof state;

@@ -32,10 +32,8 @@ class Editor {
 
   // Presses a key with others held until the picture has changed.
   void Press(WORD key, std::initializer_list<WORD> held = {}) const;
-  // The left button on the picture, in its own coordinates.
-  void ClickPicture(POINT at) const;
-  // A drag. What it moves has to be seen at its place before Drop: the system may deliver the
-  // moves late.
+  // A drag on the picture, in its own coordinates. What it moves has to be seen at its place before
+  // Drop: the system may deliver the moves late.
   void Grab(POINT from) const;
   void DragTo(POINT to) const;
   void Drop() const;

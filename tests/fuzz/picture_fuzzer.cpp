@@ -8,6 +8,7 @@
 #include "imaging/image_class.h"
 #include "imaging/image_files.h"
 #include "support/file_content.h"
+#include "support/picture_difference.h"
 #include "support/temp_folder.h"
 #include "support/template_pictures.h"
 
@@ -42,13 +43,6 @@ void MendPng(std::string& bytes) {
   }
 }
 
-bool SamePixels(const BitmapClass& one, const BitmapClass& other) {
-  for (int32_t y = 0; y < one.height; ++y) {
-    if (!std::equal(one.Row(y), one.Row(y) + one.width, other.Row(y))) return false;
-  }
-  return one.width == other.width && one.height == other.height;
-}
-
 void CheckPicture(const std::string& path, const ImageSize& size) {
   ImageClass picture;
   DIBClass copy;
@@ -57,7 +51,7 @@ void CheckPicture(const std::string& path, const ImageSize& size) {
   Require(loaded == picture.valid && loaded == copy.valid, "only what is loaded is valid");
   if (!loaded) return;
   Require(picture.width == size.width && picture.height == size.height, "the size is as told");
-  Require(SamePixels(picture, copy), "both kinds of surface get the same pixels");
+  Require(Difference(picture, copy).empty(), "both kinds of surface get the same pixels");
   for (int32_t y = 0; y < picture.height; ++y) {
     for (int32_t x = 0; x < picture.width; ++x) {
       Require(picture.Row(y)[x] >> 24 == 0, "top bytes are 0");
@@ -68,7 +62,7 @@ void CheckPicture(const std::string& path, const ImageSize& size) {
   std::remove(saved.c_str());
   ImageClass again;
   Require(SaveImageFile(saved.c_str(), picture) && LoadImageFile(saved.c_str(), again) &&
-              SamePixels(picture, again),
+              Difference(picture, again).empty(),
           "a PNG keeps the picture");
 }
 
