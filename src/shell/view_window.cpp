@@ -49,6 +49,8 @@ void SizeAxis(HWND view, Axis axis, int clientSize) {
     SetScrollPos(view, axis.bar, axis.scroll, FALSE);
   }
   SetScrollRange(view, axis.bar, 0, last, TRUE);
+  // A bar whose range is the one it had when it was hidden may stay hidden.
+  if (last > 0) ShowScrollBar(view, axis.bar, TRUE);
 }
 
 LRESULT OnSize(HWND view, int clientWidth) {

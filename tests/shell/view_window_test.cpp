@@ -124,6 +124,22 @@ TEST_F(ViewTest, GrowingViewKeepsTheEndInSight) {
   for (const int bar : {SB_HORZ, SB_VERT}) EXPECT_EQ(0, GetScrollPos(doc.viewWindow, bar));
 }
 
+TEST_F(ViewTest, BothBarsComeBackWithASmallWindow) {
+  for (const auto& [width, height] :
+       {std::pair(640, 480), std::pair(1100, 800), std::pair(640, 480), std::pair(1100, 480),
+        std::pair(640, 800), std::pair(640, 480)}) {
+    SetWindowPos(doc.mainWindow, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    RECT view{}, client{};
+    GetWindowRect(doc.viewWindow, &view);
+    GetClientRect(doc.viewWindow, &client);
+    const LONG_PTR style = GetWindowLongPtrA(doc.viewWindow, GWL_STYLE);
+    EXPECT_EQ(width < 800, (style & WS_HSCROLL) != 0) << width << " x " << height;
+    EXPECT_EQ(height < 520, (style & WS_VSCROLL) != 0) << width << " x " << height;
+    EXPECT_EQ(width < 800, client.bottom < view.bottom - view.top) << width << " x " << height;
+    EXPECT_EQ(height < 520, client.right < view.right - view.left) << width << " x " << height;
+  }
+}
+
 // What PaintView puts onto a device context.
 TEST_F(ViewTest, PaintShowsTheVisiblePartAtItsOffset) {
   DIBClass screen(1000, 600);
