@@ -1,8 +1,8 @@
 #include "dialogs/about.h"
 
+#include "controls/link_control.h"
+#include "controls/readme_box.h"
 #include "dialogs/dialog.h"
-#include "dialogs/link_control.h"
-#include "dialogs/readme_box.h"
 #include "document/load_screen_doc.h"
 #include "resources/resource.h"
 

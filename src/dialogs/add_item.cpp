@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/catalogue.h"
+#include "controls/item_preview.h"
 #include "dialogs/dialog.h"
-#include "dialogs/item_preview.h"
 #include "document/item_operations.h"
 #include "document/load_screen_doc.h"
 #include "document/shell_calls.h"
+#include "files/template_path.h"
 #include "imaging/image_files.h"
 #include "imaging/pixel_colour.h"
 #include "resources/resource.h"
@@ -22,9 +22,7 @@ constexpr int32_t kNewItemY = 100;
 std::vector<CatalogueEntry> symbols;
 
 INT_PTR OnInitDialog(HWND dialog) {
-  auto catalogue = ReadCatalogue(dialog, "SymbolsList", LeadingSpaces::kKeep);
-  if (!catalogue) return FALSE;
-  symbols = std::move(*catalogue);
+  if (!LoadCatalogue(dialog, "SymbolsList", LeadingSpaces::kKeep, symbols)) return FALSE;
   const HWND list = GetDlgItem(dialog, IDC_ADD_LIST);
   for (const CatalogueEntry& symbol : symbols) {
     // Inserted at a position, the text is not sorted: the list shows the last entry first.

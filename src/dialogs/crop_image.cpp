@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "dialogs/crop_geometry.h"
+#include "controls/control.h"
 #include "dialogs/dialog.h"
 #include "document/load_screen_doc.h"
+#include "imaging/crop_geometry.h"
 #include "imaging/dib_class.h"
 #include "imaging/memory_dc.h"
 #include "resources/resource.h"

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <string>
+#include <vector>
 
 #include "platform/win32.h"
+#include "settings/catalogue.h"
 
 // What the dialogs share.
 
@@ -10,12 +11,7 @@
 // shown.
 INT_PTR RunDialog(int templateId, HWND owner, DLGPROC procedure, LPARAM parameter = 0);
 
-// Gives a control another window procedure and returns the former one.
-WNDPROC ReplaceWindowProc(HWND control, WNDPROC procedure);
-
-// folder + "Templates\" + fileName, or an empty path, which names no file, when the system's path
-// buffers can't hold it.
-std::string TemplatePath(const char* folder, const char* fileName);
-
-// The size of a window's client area in pixels.
-SIZE ClientSize(HWND window);
+// Makes the application folder the current one, where it stays, and reads a catalogue of its
+// "Settings.ini". False, after a message owned by the dialog, when there is none.
+bool LoadCatalogue(HWND dialog, const char* section, LeadingSpaces spaces,
+                   std::vector<CatalogueEntry>& entries);

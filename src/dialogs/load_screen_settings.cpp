@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/catalogue.h"
 #include "dialogs/choose_screenshot.h"
 #include "dialogs/dialog.h"
 #include "document/load_screen_doc.h"
 #include "document/shell_calls.h"
+#include "files/template_path.h"
 #include "imaging/image_files.h"
 #include "resources/resource.h"
 
@@ -51,9 +51,7 @@ void ShowChoices(HWND dialog) {
 }
 
 INT_PTR OnInitDialog(HWND dialog) {
-  auto catalogue = ReadCatalogue(dialog, "CameosList", LeadingSpaces::kSkip);
-  if (!catalogue) return TRUE;
-  cameos = std::move(*catalogue);
+  if (!LoadCatalogue(dialog, "CameosList", LeadingSpaces::kSkip, cameos)) return TRUE;
   FillLists(dialog);
   ShowChoices(dialog);
   return TRUE;

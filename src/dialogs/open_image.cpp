@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "dialogs/image_preview.h"
+#include "controls/image_preview.h"
+#include "dialogs/file_dialogs.h"
 #include "imaging/image_files.h"
 #include "resources/resource.h"
 
@@ -78,20 +79,12 @@ std::string FolderOf(const char* path) {
 int OpenImageWithPreview(HWND owner, char (&path)[MAX_PATH], BitmapClass& surface) {
   const std::string folder = FolderOf(path);
   path[0] = '\0';
-  OPENFILENAMEA dialog{};
-  dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = owner;
-  dialog.hInstance = GetModuleHandleA(nullptr);
-  dialog.lpstrFilter = imageFilter;
-  dialog.lpstrFile = path;
-  dialog.nMaxFile = MAX_PATH;
+  OPENFILENAMEA dialog = FileDialog(owner, path, imageFilter, "bmp");
   dialog.lpstrInitialDir = folder.c_str();
   dialog.lpstrTitle = "Choose file to open";
-  dialog.lpstrDefExt = "bmp";
   dialog.lpTemplateName = MAKEINTRESOURCEA(IDD_OPEN_PREVIEW);
   dialog.lpfnHook = OpenPreviewHook;
-  dialog.Flags = OFN_HIDEREADONLY | OFN_ENABLEHOOK | OFN_ENABLETEMPLATE | OFN_FILEMUSTEXIST |
-                 OFN_EXPLORER | OFN_ENABLESIZING;
+  dialog.Flags |= OFN_ENABLEHOOK | OFN_ENABLETEMPLATE;
   if (!GetOpenFileNameA(&dialog)) {
     // A buffer that is too small comes back with the needed size in place of a path.
     path[0] = '\0';

@@ -1,11 +1,12 @@
 #include "dialogs/screenshot_settings.h"
 
+#include "controls/control.h"
 #include "dialogs/dialog.h"
-#include "dialogs/screenshot_adjustment.h"
 #include "document/load_screen_doc.h"
 #include "document/shell_calls.h"
 #include "imaging/memory_dc.h"
 #include "imaging/pixel_colour.h"
+#include "imaging/screenshot_adjustment.h"
 #include "resources/resource.h"
 
 namespace {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "document/shell_calls.h"
+#include "files/template_path.h"
 #include "imaging/image_files.h"
 #include "resources/resource.h"
 
@@ -22,11 +23,9 @@ const SideNames& NamesOf(int32_t side) {
   return side == Allied || side == Soviet ? kSides[side] : kSides[Yuri];
 }
 
-// Loads a picture of the Templates folder into an empty surface. A path that the system's own
-// path buffers can't hold counts as a missing file.
+// Loads a picture of the Templates folder into an empty surface.
 bool LoadTemplate(const std::string& fileName, BitmapClass& surface) {
-  const std::string path = doc.appDir + ("Templates\\" + fileName);
-  return path.size() < MAX_PATH && LoadImageFile(path.c_str(), surface);
+  return LoadImageFile(TemplatePath(doc.appDir, fileName).c_str(), surface) != 0;
 }
 
 void LoadSideTemplate(const std::string& fileName, BitmapClass& surface) {

@@ -2,10 +2,7 @@
 
 #include <vector>
 
-#include "document/composition.h"
-#include "document/load_screen_doc.h"
 #include "export/quantizer.h"
-#include "imaging/image_class.h"
 
 namespace {
 
@@ -24,10 +21,11 @@ int32_t GeneratePalette(const ImageClass& picture, int32_t colours, ShpPalette& 
 
 std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& palette,
                                 int32_t usedEntries, const ExportProgress& progress) {
-  std::vector<uint8_t> indices(kShpDataSize);
+  std::vector<uint8_t> indices(static_cast<size_t>(picture.width) *
+                               static_cast<size_t>(picture.height));
   uint8_t* row = indices.data();
-  for (int32_t y = 0; y < kPictureHeight; ++y, row += kPictureWidth) {
-    MapToPalette(picture.Row(y), kPictureWidth, palette, usedEntries, row);
+  for (int32_t y = 0; y < picture.height; ++y, row += picture.width) {
+    MapToPalette(picture.Row(y), picture.width, palette, usedEntries, row);
     if (y % kRowsPerStep == 0) progress(ExportStep::RowsMapped);
   }
   return indices;
@@ -35,12 +33,8 @@ std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& pal
 
 }  // namespace
 
-FailedStep RunShpExport(const ShpExport& request, const ExportProgress& progress) {
-  ImageClass picture;
-  picture.Create(kPictureWidth, kPictureHeight);
-  ComposeLoadScreen(&picture);
-  progress(ExportStep::Composed);
-
+FailedStep RunShpExport(const ImageClass& picture, const ShpExport& request,
+                        const ExportProgress& progress) {
   ShpPalette palette;
   int32_t usedEntries = request.colours;
   if (request.paletteMode == kExistingPalette) {
@@ -51,9 +45,12 @@ FailedStep RunShpExport(const ShpExport& request, const ExportProgress& progress
   progress(ExportStep::PaletteMade);
 
   FileClass file;
-  if (const FailedStep failed = BeginShpFile(file, request.shpPath)) return failed;
+  if (const FailedStep failed =
+          BeginShpFile(file, request.shpPath, static_cast<uint16_t>(picture.width),
+                       static_cast<uint16_t>(picture.height)))
+    return failed;
   const std::vector<uint8_t> indices = MapPicture(picture, palette, usedEntries, progress);
-  if (const FailedStep failed = FinishShpFile(file, indices.data())) return failed;
+  if (const FailedStep failed = FinishShpFile(file, indices)) return failed;
   progress(ExportStep::DataWritten);
 
   if (request.paletteMode == kExistingPalette) return nullptr;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "export/shp_files.h"
+#include "imaging/image_class.h"
 
 // Where the palette of an export comes from.
 enum PaletteMode : int { kGeneratePalette = 0, kExistingPalette = 1 };
@@ -15,10 +16,11 @@ struct ShpExport {
   int32_t colours;          // 1 to 256: pixels use only the palette's first entries
 };
 
-// How far an export has come: one call a step, 14 in all when nothing fails.
-enum class ExportStep { Composed, PaletteMade, RowsMapped, DataWritten };
+// How far an export has come: one call a step, RowsMapped after the first row and every 50 more.
+enum class ExportStep { PaletteMade, RowsMapped, DataWritten };
 using ExportProgress = std::function<void(ExportStep)>;
 
 // Writes the picture as a sprite file and, when it is generated, its palette. Unused entries of a
 // generated palette are black in the file and no pixel's colour. Throws std::bad_alloc.
-FailedStep RunShpExport(const ShpExport& request, const ExportProgress& progress);
+FailedStep RunShpExport(const ImageClass& picture, const ShpExport& request,
+                        const ExportProgress& progress);

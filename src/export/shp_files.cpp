@@ -8,10 +8,6 @@ static_assert(sizeof(SHP2FILEHEADER) == 8 && sizeof(SHP2FRAMEINFO) == 24);
 
 namespace {
 
-constexpr SHP2FILEHEADER kHeader = {0, kPictureWidth, kPictureHeight, 1};
-constexpr SHP2FRAMEINFO kFrame = {
-    0, 0, kPictureWidth, kPictureHeight, 0, 0, 0, sizeof kHeader + sizeof(SHP2FRAMEINFO)};
-
 // Applies change(component) to every component of the palette.
 template <class Change>
 void ForComponents(ShpPalette& palette, Change change) {
@@ -24,16 +20,20 @@ void ForComponents(ShpPalette& palette, Change change) {
 
 }  // namespace
 
-FailedStep BeginShpFile(FileClass& file, const char* path) {
+FailedStep BeginShpFile(FileClass& file, const char* path, uint16_t width, uint16_t height) {
+  const SHP2FILEHEADER header = {0, width, height, 1};
+  const SHP2FRAMEINFO frame = {0, 0, width, height, 0, 0, 0, sizeof header + sizeof frame};
   file.SetName(path);
   if (!file.Open(1)) return "SHP file open error!";
-  if (!file.Write(&kHeader, sizeof kHeader)) return "SHP file write error (SHP2FILEHEADER)!";
-  if (!file.Write(&kFrame, sizeof kFrame)) return "SHP file write error (SHP2FRAMEINFO)!";
+  if (!file.Write(&header, sizeof header)) return "SHP file write error (SHP2FILEHEADER)!";
+  if (!file.Write(&frame, sizeof frame)) return "SHP file write error (SHP2FRAMEINFO)!";
   return nullptr;
 }
 
-FailedStep FinishShpFile(FileClass& file, const uint8_t* indices) {
-  if (!file.Write(indices, kShpDataSize)) return "SHP file write error (Image data)!";
+FailedStep FinishShpFile(FileClass& file, const std::vector<uint8_t>& indices) {
+  if (!file.Write(indices.data(), static_cast<uint32_t>(indices.size()))) {
+    return "SHP file write error (Image data)!";
+  }
   file.Close();
   return nullptr;
 }

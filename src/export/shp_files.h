@@ -1,14 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
-#include "document/load_screen_doc.h"
 #include "export/shp_palette.h"
-#include "settings/file_class.h"
+#include "files/file_class.h"
 
 // The game's sprite and palette files. All numbers are little-endian.
 //
-//   SHP, 416032 bytes: one uncompressed frame of 800 x 520
+//   SHP: one uncompressed frame, for the editor's 800 x 520 pixels 416032 bytes
 //     0  u16 0          8  u16 frame x 0       16  u32 0, u32 0, u32 0
 //     2  u16 width      10 u16 frame y 0       28  u32 offset of the pixels, 32
 //     4  u16 height     12 u16 frame width     32  one palette index per pixel, rows from the top
@@ -36,18 +36,16 @@ struct SHP2FRAMEINFO {
 };
 #pragma pack(pop)
 
-inline constexpr uint32_t kShpDataSize = kPictureWidth * kPictureHeight;
-
 // The result of a file operation: null when it succeeded, otherwise the message of the step that
 // failed. What was written up to then stays on disk.
 using FailedStep = const char*;
 
-// Creates the sprite file, replacing an existing one, and writes its two records. On success it
-// stays open for FinishShpFile.
-FailedStep BeginShpFile(FileClass& file, const char* path);
+// Creates the sprite file, replacing an existing one, and writes its two records for a frame of the
+// given size. On success it stays open for FinishShpFile.
+FailedStep BeginShpFile(FileClass& file, const char* path, uint16_t width, uint16_t height);
 
-// Writes the kShpDataSize indices and closes the file.
-FailedStep FinishShpFile(FileClass& file, const uint8_t* indices);
+// Writes the frame's indices, one a pixel and at least one, and closes the file.
+FailedStep FinishShpFile(FileClass& file, const std::vector<uint8_t>& indices);
 
 // Reads a palette from the first 768 bytes of a file. A component above 63 wraps: only the low 8
 // bits of its fourfold count.

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "imagelib/imagelib.h"
-#include "imaging/save_dialog.h"
 
 char imageFilter[256];
 
@@ -63,9 +62,4 @@ int SaveImageFile(const char* path, const BitmapClass& surface) {
     buffer.insert(buffer.end(), row, row + surface.width);
   }
   return ImageSave(path, buffer.data(), surface.width, surface.height);
-}
-
-int SaveImageFileAs(HWND owner, char (&path)[MAX_PATH], const BitmapClass& surface) {
-  if (!AskSaveName(owner, path, imageFilter, "bmp")) return 0;
-  return SaveImageFile(path, surface);
 }

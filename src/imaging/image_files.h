@@ -1,7 +1,6 @@
 #pragma once
 
 #include "imaging/bitmap_class.h"
-#include "platform/win32.h"
 
 // The filter of the image file dialogs: the library's types, then all files. Built by
 // InitImageFiles, empty before.
@@ -21,7 +20,3 @@ int LoadImageFile(const char* path, BitmapClass& surface);
 
 // Writes the surface in the format of the path's extension. The library's result, 0 on failure.
 int SaveImageFile(const char* path, const BitmapClass& surface);
-
-// Asks for a path, which the buffer proposes and receives, and saves the surface there. 0 when the
-// user cancelled.
-int SaveImageFileAs(HWND owner, char (&path)[MAX_PATH], const BitmapClass& surface);

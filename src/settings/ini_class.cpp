@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "files/text_file.h"
 #include "platform/win32.h"
-#include "settings/text_file.h"
 
 namespace {
 

@@ -8,11 +8,10 @@
 #include "document/item_operations.h"
 #include "document/load_screen_doc.h"
 #include "document/shell_calls.h"
-#include "export/copy_to_clipboard.h"
-#include "export/save_as_image.h"
-#include "export/save_as_shp.h"
 #include "resources/resource.h"
+#include "shell/copy_to_clipboard.h"
 #include "shell/main_window.h"
+#include "shell/save_commands.h"
 
 namespace {
 

@@ -10,8 +10,6 @@
 
 namespace {
 
-HMENU Popup(MenuPopup popup) { return GetSubMenu(GetMenu(doc.mainWindow), popup); }
-
 LRESULT OnCreate(HWND window) {
   doc.mainWindow = window;
   doc.statusBar = CreateStatusBar(window, doc.instance);
@@ -39,16 +37,6 @@ void LayOut(int clientWidth, int clientHeight) {
 }
 
 }  // namespace
-
-void CheckCommand(MenuPopup popup, unsigned command, bool checked) {
-  CheckMenuItem(Popup(popup), command,
-                MF_BYCOMMAND | static_cast<UINT>(checked ? MF_CHECKED : MF_UNCHECKED));
-}
-
-void EnableCommand(MenuPopup popup, unsigned command, bool enabled) {
-  EnableMenuItem(Popup(popup), command,
-                 MF_BYCOMMAND | static_cast<UINT>(enabled ? MF_ENABLED : MF_GRAYED));
-}
 
 void LayOutMainWindow() {
   RECT client{};

@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "dialogs/image_preview.h"
-#include "dialogs/link_control.h"
+#include "controls/image_preview.h"
+#include "controls/link_control.h"
 #include "document/load_screen_doc.h"
 #include "imagelib/imagelib.h"
 #include "imaging/image_files.h"

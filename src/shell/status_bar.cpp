@@ -1,8 +1,5 @@
 #include "shell/status_bar.h"
 
-#include "document/load_screen_doc.h"
-#include "document/shell_calls.h"
-
 HWND CreateStatusBar(HWND parent, HINSTANCE instance) {
   HWND bar = CreateWindowExA(0, STATUSCLASSNAMEA, nullptr,
                              WS_CHILD | WS_VISIBLE | WS_BORDER | SBARS_SIZEGRIP | CCS_BOTTOM, 0, 0,
@@ -23,10 +20,4 @@ int PlaceStatusBar(HWND statusBar) {
   RECT bounds{};
   GetWindowRect(statusBar, &bounds);
   return bounds.bottom - bounds.top;
-}
-
-void SetStatusText(int part, const char* text) {
-  if (!doc.statusBar) return;
-  SendMessageA(doc.statusBar, SB_SETTEXTA, static_cast<WPARAM>(part),
-               reinterpret_cast<LPARAM>(text));
 }

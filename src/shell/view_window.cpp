@@ -123,11 +123,6 @@ void PaintView(HDC dc) {
   SetStatusText(1, text);
 }
 
-void RepaintView() {
-  const WindowDc dc(doc.viewWindow);
-  PaintView(dc.get());
-}
-
 LRESULT CALLBACK ViewProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   // Mouse positions are signed: they are negative left of and above the view during a drag.
   const int x = static_cast<int16_t>(LOWORD(lParam)), y = static_cast<int16_t>(HIWORD(lParam));

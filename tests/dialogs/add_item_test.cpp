@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/dialog.h"
-#include "dialogs/item_preview.h"
+#include "controls/control.h"
+#include "controls/item_preview.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 #include "support/surface_text.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 

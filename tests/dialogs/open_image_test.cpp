@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 #include "support/find_window.h"

@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "dialogs/crop_geometry.h"
-#include "dialogs/screenshot_adjustment.h"
 #include "document/load_screen_doc.h"
 #include "e2e/dialogs.h"
 #include "e2e/editor.h"
@@ -15,7 +13,9 @@
 #include "e2e/load_screen_plans.h"
 #include "e2e/results.h"
 #include "e2e/screen.h"
+#include "imaging/crop_geometry.h"
 #include "imaging/pixel_colour.h"
+#include "imaging/screenshot_adjustment.h"
 #include "resources/resource.h"
 #include "settings/ini_class.h"
 #include "support/case_name.h"

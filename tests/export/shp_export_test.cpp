@@ -19,7 +19,7 @@ class ShpExportTest : public EditorFixture {
   // Runs the export of the document; the steps that it reported stand in steps_.
   FailedStep Export(int mode, int32_t colours) {
     steps_.clear();
-    return RunShpExport({shp_.c_str(), mode, pal_.c_str(), colours},
+    return RunShpExport(Composed(), {shp_.c_str(), mode, pal_.c_str(), colours},
                         [this](ExportStep step) { steps_.push_back(step); });
   }
   // The pixels of the sprite file, as palette indices.
@@ -65,8 +65,8 @@ TEST_F(ShpExportTest, GeneratedPaletteIsWrittenAndUsed) {
   }
 }
 
-TEST_F(ShpExportTest, FourteenStepsAreReported) {
-  Steps expected = {ExportStep::Composed, ExportStep::PaletteMade};
+TEST_F(ShpExportTest, ThirteenStepsAreReported) {
+  Steps expected = {ExportStep::PaletteMade};
   expected.insert(expected.end(), 11, ExportStep::RowsMapped);
   expected.push_back(ExportStep::DataWritten);
   ASSERT_STREQ(nullptr, Export(kGeneratePalette, 16));

@@ -17,13 +17,13 @@ class ShpFilesTest : public testing::Test {
 
 TEST_F(ShpFilesTest, SpriteFileIsWrittenByteForByte) {
   WriteContent(path_, std::string(500000, 'x'));
-  std::vector<uint8_t> indices(kShpDataSize);
+  std::vector<uint8_t> indices(800 * 520);
   for (size_t i = 0; i < indices.size(); ++i) indices[i] = static_cast<uint8_t>(i % 251);
   indices.front() = 7;
   indices.back() = 200;
   FileClass file;
-  ASSERT_STREQ(nullptr, BeginShpFile(file, path_.c_str()));
-  ASSERT_STREQ(nullptr, FinishShpFile(file, indices.data()));
+  ASSERT_STREQ(nullptr, BeginShpFile(file, path_.c_str(), 800, 520));
+  ASSERT_STREQ(nullptr, FinishShpFile(file, indices));
   EXPECT_STREQ("Not-open", file.GetName());
   const std::string content = ReadContent(path_);
   ASSERT_EQ(416032U, content.size()) << "the longer file before is replaced";
@@ -83,8 +83,7 @@ TEST_F(ShpFilesTest, PaletteNeeds768BytesAndTakesNoMore) {
 
 TEST_F(ShpFilesTest, DataForAClosedFileIsAnError) {
   FileClass closed;
-  const std::vector<uint8_t> indices(kShpDataSize);
-  EXPECT_STREQ("SHP file write error (Image data)!", FinishShpFile(closed, indices.data()));
+  EXPECT_STREQ("SHP file write error (Image data)!", FinishShpFile(closed, {1, 2, 3}));
 }
 
 }  // namespace

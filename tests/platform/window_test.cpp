@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
 #include "platform/message_log.h"
 #include "support/user.h"
 

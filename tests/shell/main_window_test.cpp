@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
 #include "document/item_operations.h"
 #include "imagelib/imagelib.h"
 #include "shell/startup.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
 #include "document/shell_calls.h"
 #include "imaging/memory_dc.h"
 #include "support/editor_fixture.h"

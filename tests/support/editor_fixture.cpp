@@ -3,9 +3,9 @@
 #include <cstring>
 #include <filesystem>
 
-#include "dialogs/dialog.h"
+#include "controls/control.h"
+#include "dialogs/shp_options.h"
 #include "export/shp_export.h"
-#include "export/shp_options.h"
 #include "imagelib/imagelib.h"
 #include "imaging/image_files.h"
 #include "shell/main_window.h"

@@ -1,0 +1,40 @@
+#include "imaging/crop_geometry.h"
+
+#include <algorithm>
+
+#include "imaging/pixel_colour.h"
+
+namespace {
+
+constexpr uint32_t kDimming = 128;
+
+void Dim(uint32_t* first, uint32_t* last) {
+  for (; first < last; ++first) *first = Darken(*first, kDimming);
+}
+
+}  // namespace
+
+int32_t LimitCrop(int64_t position, int32_t picture, int32_t crop) {
+  const int64_t last = std::max(picture - crop, 0);
+  return static_cast<int32_t>(std::clamp<int64_t>(position, 0, last));
+}
+
+int32_t CropAroundMouse(int32_t mouse, int32_t preview, int32_t picture, int32_t crop) {
+  if (preview <= 0 || picture <= 0) return 0;
+  const double scale = static_cast<double>(preview) / picture;
+  const double start = mouse / scale - crop / 2;
+  return LimitCrop(static_cast<int64_t>(start), picture, crop);
+}
+
+void DimOutside(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height) {
+  for (int32_t row = 0; row < picture.height; ++row) {
+    uint32_t* const pixels = picture.Row(row);
+    uint32_t* const end = pixels + picture.width;
+    if (row < y || row >= y + height) {
+      Dim(pixels, end);
+    } else {
+      Dim(pixels, pixels + x);
+      Dim(pixels + x + width, end);
+    }
+  }
+}
