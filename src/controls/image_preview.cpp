@@ -1,17 +1,11 @@
 #include "controls/image_preview.h"
 
 #include <cstdio>
-#include <memory>
 
-#include "controls/control.h"
-#include "imaging/dib_class.h"
-#include "imaging/image_files.h"
 #include "imaging/memory_dc.h"
 
 namespace {
 
-std::unique_ptr<DIBClass> previewSurface;
-int32_t previewLoaded = 0;  // 1 when previewSurface holds the selected file's picture
 int32_t previewClassRegistered = 0;
 
 constexpr int kCaptionHeight = 30;  // the strip at the bottom with the picture's size
@@ -20,8 +14,7 @@ void DrawCentred(HDC target, const char* text, RECT area) {
   DrawTextA(target, text, -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
-void DrawPicture(HDC target, const RECT& client) {
-  const DIBClass& picture = *previewSurface;
+void DrawPicture(HDC target, const RECT& client, const DIBClass& picture) {
   const PreviewPlacement place =
       FitPreview(client.right, client.bottom, picture.width, picture.height);
   if (place.width == picture.width && place.height == picture.height) {
@@ -42,8 +35,9 @@ LRESULT OnPaint(HWND control) {
   RECT client{};
   GetClientRect(control, &client);
   SetBkMode(paint.get(), TRANSPARENT);
-  if (previewLoaded) {
-    DrawPicture(paint.get(), client);
+  if (const auto picture =
+          reinterpret_cast<const DIBClass*>(GetWindowLongPtrA(control, GWLP_USERDATA))) {
+    DrawPicture(paint.get(), client, *picture);
   } else {
     DrawCentred(paint.get(), "No preview", client);
   }
@@ -76,20 +70,9 @@ void RegisterImagePreview() {
   previewClassRegistered = 1;
 }
 
-void OpenPreviewPicture() {
-  previewSurface = std::make_unique<DIBClass>();
-  previewLoaded = 0;
-}
-
-void ClosePreviewPicture() {
-  previewSurface.reset();
-  previewLoaded = 0;
-}
-
-void LoadPreviewPicture(const char* path) {
-  if (!previewSurface) return;
-  previewSurface->Free();
-  previewLoaded = LoadImageFile(path, *previewSurface);
+void ShowPreviewPicture(HWND control, const DIBClass* picture) {
+  SetWindowLongPtrA(control, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(picture));
+  InvalidateRect(control, nullptr, TRUE);
 }
 
 PreviewPlacement FitPreview(int32_t controlWidth, int32_t controlHeight, int32_t width,

@@ -2,18 +2,18 @@
 
 #include <cstdint>
 
-// The preview control of the Open dialog, window class "ImagePreview": shows a picture file, scaled
-// down to fit, and its size, or "No preview".
+#include "imaging/dib_class.h"
+#include "platform/win32.h"
+
+// The preview control of the Open dialog, window class "ImagePreview": shows a picture, scaled down
+// to fit, and its size, or "No preview".
 
 // Registers the control's window class. Once per process; further calls do nothing.
 void RegisterImagePreview();
 
-// The preview has a picture from its opening to its closing; all preview controls show the same.
-void OpenPreviewPicture();
-void ClosePreviewPicture();
-
-// Shows the file's picture, or none when the file can't be read. Repainting is up to the caller.
-void LoadPreviewPicture(const char* path);
+// Makes the control show a picture from its next repaint on, which is requested; null for none.
+// The picture must live as long as the control or until it shows another.
+void ShowPreviewPicture(HWND control, const DIBClass* picture);
 
 // Where a picture is shown in a control, in pixels.
 struct PreviewPlacement {

@@ -1,6 +1,5 @@
 #include "controls/item_preview.h"
 
-#include "controls/control.h"
 #include "document/load_screen_doc.h"
 #include "imaging/image_files.h"
 #include "imaging/memory_dc.h"
@@ -8,30 +7,10 @@
 
 namespace {
 
-WNDPROC originalProc = nullptr;
-
 void FillWithFaceColour(HWND control, HDC target) {
   RECT client{};
   GetClientRect(control, &client);
   FillRect(target, &client, GetSysColorBrush(COLOR_3DFACE));
-}
-
-LRESULT OnPaint(HWND control) {
-  if (!doc.itemPreview.valid) {
-    ValidateRect(control, nullptr);
-    return 0;
-  }
-  const PaintDc paint(control);
-  FillWithFaceColour(control, paint.get());
-  const SIZE client = ClientSize(control);
-  doc.itemPreview.BlitTo(paint.get(), (client.cx - doc.itemPreview.width) / 2,
-                         (client.cy - doc.itemPreview.height) / 2);
-  return 0;
-}
-
-LRESULT CALLBACK ItemPreviewProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) return OnPaint(control);
-  return CallWindowProcA(originalProc, control, message, wParam, lParam);
 }
 
 void Tint(BitmapClass& picture) {
@@ -46,17 +25,35 @@ uint32_t SideColour(int32_t itemColour) {
   return kColours[itemColour];
 }
 
-void AttachItemPreview(HWND control) { originalProc = ReplaceWindowProc(control, ItemPreviewProc); }
+void ItemPreview::Attach(HWND control) {
+  hook.Attach(control, [this](UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == WM_PAINT ? OnPaint() : hook.PassOn(message, wParam, lParam);
+  });
+}
 
-void ShowItemPreview(HWND control, const char* path) {
+LRESULT ItemPreview::OnPaint() const {
+  const HWND control = hook.Control();
+  if (!doc.itemPreview.valid) {
+    ValidateRect(control, nullptr);
+    return 0;
+  }
+  const PaintDc paint(control);
+  FillWithFaceColour(control, paint.get());
+  const SIZE client = ClientSize(control);
+  doc.itemPreview.BlitTo(paint.get(), (client.cx - doc.itemPreview.width) / 2,
+                         (client.cy - doc.itemPreview.height) / 2);
+  return 0;
+}
+
+void ItemPreview::Show(const char* path) const {
   doc.itemPreview.Free();
   if (LoadImageFile(path, doc.itemPreview)) {
     Tint(doc.itemPreview);
   } else {
     doc.itemPreview.Free();
     // An empty preview paints nothing, so the picture shown before has to be wiped here.
-    const WindowDc target(control);
-    FillWithFaceColour(control, target.get());
+    const WindowDc target(hook.Control());
+    FillWithFaceColour(hook.Control(), target.get());
   }
-  InvalidateRect(control, nullptr, TRUE);
+  InvalidateRect(hook.Control(), nullptr, TRUE);
 }

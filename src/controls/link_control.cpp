@@ -43,7 +43,7 @@ LRESULT OnPaint(HWND link) {
   RECT client{};
   GetClientRect(link, &client);
   const PaintDc paint(link);
-  const HGDIOBJ former = SelectObject(paint.get(), doc.linkFont);
+  const HGDIOBJ former = SelectObject(paint.get(), doc.linkFont.get());
   SetTextColor(paint.get(), kLinkColour);
   SetBkMode(paint.get(), TRANSPARENT);
   DrawTextA(paint.get(), text, -1, &client, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
@@ -69,12 +69,12 @@ LRESULT CALLBACK LinkProc(HWND link, UINT message, WPARAM wParam, LPARAM lParam)
   return DefWindowProcA(link, message, wParam, lParam);
 }
 
-HFONT MakeLinkFont() {
+FontHandle MakeLinkFont() {
   constexpr int kHeight = 15;
   constexpr DWORD kUnderlined = TRUE;
-  return CreateFontA(kHeight, 0, 0, 0, FW_BOLD, FALSE, kUnderlined, FALSE, ANSI_CHARSET,
-                     OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH,
-                     nullptr);
+  return FontHandle(CreateFontA(kHeight, 0, 0, 0, FW_BOLD, FALSE, kUnderlined, FALSE, ANSI_CHARSET,
+                                OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                                VARIABLE_PITCH, nullptr));
 }
 
 }  // namespace
@@ -94,7 +94,4 @@ void RegisterLinkClass() {
   doc.linkClassRegistered = 1;
 }
 
-void DeleteLinkFont() {
-  if (doc.linkFont) DeleteObject(doc.linkFont);
-  doc.linkFont = nullptr;
-}
+void DeleteLinkFont() { doc.linkFont.reset(); }

@@ -3,12 +3,9 @@
 #include <memory>
 #include <new>
 
-#include "controls/control.h"
 #include "files/file_class.h"
 
 namespace {
-
-WNDPROC originalProc = nullptr;
 
 bool IsArrowKey(WPARAM key) {
   return key == VK_LEFT || key == VK_UP || key == VK_RIGHT || key == VK_DOWN;
@@ -30,25 +27,29 @@ bool IsSwallowed(UINT message, WPARAM wParam) {
   return false;
 }
 
-LRESULT CALLBACK ReadmeBoxProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam) {
+}  // namespace
+
+void ReadmeBox::Attach(HWND edit) {
+  hook.Attach(edit, [this](UINT message, WPARAM wParam, LPARAM lParam) {
+    return OnMessage(message, wParam, lParam);
+  });
+}
+
+LRESULT ReadmeBox::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
   if (IsSwallowed(message, wParam)) return 0;
-  const LRESULT result = CallWindowProcA(originalProc, edit, message, wParam, lParam);
+  const LRESULT result = hook.PassOn(message, wParam, lParam);
   // A multi-line edit control asks the dialog for every key, Tab and Escape included, which would
   // be lost here; without these bits they stay with the dialog.
   if (message == WM_GETDLGCODE) return result & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB);
   return result;
 }
 
-}  // namespace
-
-void AttachReadmeBox(HWND edit) { originalProc = ReplaceWindowProc(edit, ReadmeBoxProc); }
-
-void ShowReadme(HWND edit, const char* path) {
+void ReadmeBox::Show(const char* path) const {
   FileClass file(path);
   if (!file.Open(0)) return;
   const uint32_t size = file.GetSize();
   const std::unique_ptr<char[]> text(new (std::nothrow) char[static_cast<size_t>(size) + 1]);
   if (!text || !file.Read(text.get(), size)) return;
   text[size] = '\0';
-  SetWindowTextA(edit, text.get());
+  SetWindowTextA(hook.Control(), text.get());
 }

@@ -12,58 +12,55 @@ constexpr char kWebPage[] = "https://corvanta.example.org/";
 constexpr DWORD kFadeMilliseconds = 1000;
 constexpr LONG kTitleHeight = 30;
 
-HFONT MakeTitleFont() {
+FontHandle MakeTitleFont() {
   LOGFONTA font{};
   font.lfHeight = kTitleHeight;
   font.lfCharSet = DEFAULT_CHARSET;
-  return CreateFontIndirectA(&font);
+  return FontHandle(CreateFontIndirectA(&font));
 }
 
-INT_PTR OnInitDialog(HWND dialog) {
-  SendDlgItemMessageA(dialog, IDC_ABOUT_TITLE, WM_SETFONT,
-                      reinterpret_cast<WPARAM>(doc.aboutTitleFont), TRUE);
-  const HWND link = GetDlgItem(dialog, IDC_ABOUT_LINK);
+class AboutDialog final : public Dialog {
+ private:
+  INT_PTR OnInit() override;
+  INT_PTR OnCommand(int id, UINT notification) override;
+  INT_PTR OnClose() override;
+
+  ReadmeBox readme;
+};
+
+INT_PTR AboutDialog::OnInit() {
+  Send(IDC_ABOUT_TITLE, WM_SETFONT, reinterpret_cast<WPARAM>(doc.aboutTitleFont.get()), TRUE);
+  const HWND link = Control(IDC_ABOUT_LINK);
   SendMessageA(link, LM_SETADDRESS, reinterpret_cast<WPARAM>(kWebPage), 0);
-  const HWND readme = GetDlgItem(dialog, IDC_ABOUT_README);
-  AttachReadmeBox(readme);
+  readme.Attach(Control(IDC_ABOUT_README));
   RedrawWindow(link, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
   SetCurrentDirectoryA(doc.appDir);
-  ShowReadme(readme, "Templates\\readme.txt");
-  if (doc.animateAboutBox) AnimateWindow(dialog, kFadeMilliseconds, AW_BLEND);
+  readme.Show("Templates\\readme.txt");
+  if (doc.animateAboutBox) AnimateWindow(Window(), kFadeMilliseconds, AW_BLEND);
   RedrawWindow(link, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
   return TRUE;
 }
 
-void OnClose(HWND dialog) {
+INT_PTR AboutDialog::OnCommand(int id, UINT) {
+  if (id != IDCANCEL) return FALSE;
+  SendMessageA(Window(), WM_CLOSE, 0, 0);
+  return TRUE;
+}
+
+INT_PTR AboutDialog::OnClose() {
   if (doc.animateAboutBox) {
     // A hidden window hands the focus to its owner only if that one is enabled, and else to
     // another program.
     EnableWindow(doc.mainWindow, TRUE);
-    AnimateWindow(dialog, kFadeMilliseconds, AW_BLEND | AW_HIDE);
+    AnimateWindow(Window(), kFadeMilliseconds, AW_BLEND | AW_HIDE);
   }
-  EndDialog(dialog, 0);
-}
-
-INT_PTR CALLBACK AboutProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
-  switch (message) {
-    case WM_INITDIALOG:
-      return OnInitDialog(dialog);
-    case WM_COMMAND:
-      if (LOWORD(wParam) != IDCANCEL) return FALSE;
-      SendMessageA(dialog, WM_CLOSE, 0, 0);
-      return TRUE;
-    case WM_CLOSE:
-      OnClose(dialog);
-      return TRUE;
-  }
-  return FALSE;
+  return Dialog::OnClose();
 }
 
 }  // namespace
 
 void OpenAbout() {
   doc.aboutTitleFont = MakeTitleFont();
-  RunDialog(IDD_ABOUT, doc.mainWindow, AboutProc);
-  DeleteObject(doc.aboutTitleFont);
-  doc.aboutTitleFont = nullptr;
+  AboutDialog().Run(IDD_ABOUT, doc.mainWindow);
+  doc.aboutTitleFont.reset();
 }

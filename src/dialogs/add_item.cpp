@@ -18,49 +18,71 @@ namespace {
 constexpr int32_t kNewItemX = 100;
 constexpr int32_t kNewItemY = 100;
 
-// The entries of the open dialog's list; its item data point at their file names.
-std::vector<CatalogueEntry> symbols;
+class AddItemDialog final : public Dialog {
+ private:
+  INT_PTR OnInit() override;
+  INT_PTR OnCommand(int id, UINT notification) override;
+  const char* SelectedFile() const;
+  void UpdatePreview() const;
+  void AddSelectedItem() const;
 
-INT_PTR OnInitDialog(HWND dialog) {
-  if (!LoadCatalogue(dialog, "SymbolsList", LeadingSpaces::kKeep, symbols)) return FALSE;
-  const HWND list = GetDlgItem(dialog, IDC_ADD_LIST);
+  std::vector<CatalogueEntry> symbols;  // the list's item data point at their file names
+  ItemPreview preview;
+};
+
+INT_PTR AddItemDialog::OnInit() {
+  if (!LoadCatalogue(Window(), "SymbolsList", LeadingSpaces::kKeep, symbols)) return FALSE;
   for (const CatalogueEntry& symbol : symbols) {
     // Inserted at a position, the text is not sorted: the list shows the last entry first.
-    SendMessageA(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>(symbol.text.c_str()));
-    SendMessageA(list, LB_SETITEMDATA, 0, reinterpret_cast<LPARAM>(symbol.fileName.c_str()));
+    Send(IDC_ADD_LIST, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>(symbol.text.c_str()));
+    Send(IDC_ADD_LIST, LB_SETITEMDATA, 0, reinterpret_cast<LPARAM>(symbol.fileName.c_str()));
   }
-  AttachItemPreview(GetDlgItem(dialog, IDC_ADD_PREVIEW));
-  CheckRadioButton(dialog, IDC_ADD_ALLIED, IDC_ADD_YURI, IDC_ADD_ALLIED + doc.itemColour);
-  SetFocus(list);
+  preview.Attach(Control(IDC_ADD_PREVIEW));
+  CheckRadioButton(Window(), IDC_ADD_ALLIED, IDC_ADD_YURI, IDC_ADD_ALLIED + doc.itemColour);
+  SetFocus(Control(IDC_ADD_LIST));
+  return FALSE;
+}
+
+INT_PTR AddItemDialog::OnCommand(int id, UINT notification) {
+  switch (id) {
+    case IDC_ADD_LIST:
+      if (notification == LBN_SELCHANGE) UpdatePreview();
+      break;
+    case IDC_ADD_ALLIED:
+    case IDC_ADD_SOVIET:
+    case IDC_ADD_YURI:
+      doc.itemColour = id - IDC_ADD_ALLIED;
+      UpdatePreview();
+      break;
+    case IDOK:
+      AddSelectedItem();
+      End(0);
+      break;
+    case IDCANCEL:
+      End(0);
+      break;
+  }
   return FALSE;
 }
 
 // File name of the selected entry, null for none.
-const char* SelectedFile(HWND dialog) {
-  const HWND list = GetDlgItem(dialog, IDC_ADD_LIST);
-  const LRESULT line = SendMessageA(list, LB_GETCURSEL, 0, 0);
+const char* AddItemDialog::SelectedFile() const {
+  const LRESULT line = Send(IDC_ADD_LIST, LB_GETCURSEL);
   if (line == LB_ERR) return nullptr;
   return reinterpret_cast<const char*>(
-      SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(line), 0));
+      Send(IDC_ADD_LIST, LB_GETITEMDATA, static_cast<WPARAM>(line)));
 }
 
-void UpdatePreview(HWND dialog) {
-  if (const char* fileName = SelectedFile(dialog)) {
-    ShowItemPreview(GetDlgItem(dialog, IDC_ADD_PREVIEW), TemplatePath("", fileName).c_str());
-  }
+void AddItemDialog::UpdatePreview() const {
+  if (const char* fileName = SelectedFile()) preview.Show(TemplatePath("", fileName).c_str());
 }
 
-void ChooseColour(HWND dialog, int32_t colour) {
-  doc.itemColour = colour;
-  UpdatePreview(dialog);
-}
-
-void AddSelectedItem(HWND dialog) {
-  const char* fileName = SelectedFile(dialog);
+void AddItemDialog::AddSelectedItem() const {
+  const char* fileName = SelectedFile();
   if (!fileName) return;
   ImageClass picture;
   if (!LoadImageFile(TemplatePath("", fileName).c_str(), picture)) {
-    InvalidateRect(GetDlgItem(dialog, IDC_ADD_PREVIEW), nullptr, TRUE);
+    InvalidateRect(Control(IDC_ADD_PREVIEW), nullptr, TRUE);
     return;
   }
   const uint32_t colour = SideColour(doc.itemColour);
@@ -69,46 +91,9 @@ void AddSelectedItem(HWND dialog) {
   RepaintView();
 }
 
-void OnCommand(HWND dialog, int id, UINT notification) {
-  switch (id) {
-    case IDC_ADD_LIST:
-      if (notification == LBN_SELCHANGE) UpdatePreview(dialog);
-      break;
-    case IDC_ADD_ALLIED:
-    case IDC_ADD_SOVIET:
-    case IDC_ADD_YURI:
-      ChooseColour(dialog, id - IDC_ADD_ALLIED);
-      break;
-    case IDOK:
-      AddSelectedItem(dialog);
-      EndDialog(dialog, 0);
-      break;
-    case IDCANCEL:
-      EndDialog(dialog, 0);
-      break;
-  }
-}
-
-INT_PTR CALLBACK AddItemProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
-  switch (message) {
-    case WM_INITDIALOG:
-      return OnInitDialog(dialog);
-    case WM_COMMAND:
-      OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
-      break;
-    case WM_CLOSE:
-      EndDialog(dialog, 0);
-      return TRUE;
-    case WM_DESTROY:
-      symbols.clear();
-      break;
-  }
-  return FALSE;
-}
-
 }  // namespace
 
 void OpenAddItem() {
-  RunDialog(IDD_ADD_ITEM, doc.mainWindow, AddItemProc);
+  AddItemDialog().Run(IDD_ADD_ITEM, doc.mainWindow);
   doc.itemPreview.Free();
 }

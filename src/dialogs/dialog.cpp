@@ -4,10 +4,33 @@
 
 #include "document/load_screen_doc.h"
 
-INT_PTR RunDialog(int templateId, HWND owner, DLGPROC procedure, LPARAM parameter) {
+INT_PTR Dialog::Run(int templateId, HWND owner) {
   const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(templateId),
-                                         owner, procedure, parameter);
+                                         owner, Proc, reinterpret_cast<LPARAM>(this));
   return std::max<INT_PTR>(result, 0);
+}
+
+INT_PTR Dialog::OnClose() {
+  End(0);
+  return TRUE;
+}
+
+INT_PTR Dialog::OnMessage(UINT, WPARAM, LPARAM) { return FALSE; }
+
+INT_PTR CALLBACK Dialog::Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) SetWindowLongPtrA(window, DWLP_USER, lParam);
+  const auto dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(window, DWLP_USER));
+  if (!dialog) return FALSE;  // the controls already send messages while they are made
+  switch (message) {
+    case WM_INITDIALOG:
+      dialog->window_ = window;
+      return dialog->OnInit();
+    case WM_COMMAND:
+      return dialog->OnCommand(LOWORD(wParam), HIWORD(wParam));
+    case WM_CLOSE:
+      return dialog->OnClose();
+  }
+  return dialog->OnMessage(message, wParam, lParam);
 }
 
 bool LoadCatalogue(HWND dialog, const char* section, LeadingSpaces spaces,

@@ -20,8 +20,13 @@ void AddStyle(HWND window, int index, LONG_PTR bits) {
   SetWindowLongPtrA(window, index, GetWindowLongPtrA(window, index) | bits);
 }
 
-void OnInitDialog(HWND pane) {
-  OpenPreviewPicture();
+// The selected file's picture, in the dialog's user data for as long as the dialog is open.
+DIBClass& PreviewOf(HWND pane) {
+  return *reinterpret_cast<DIBClass*>(GetWindowLongPtrA(pane, DWLP_USER));
+}
+
+void OnInitDialog(HWND pane, const OPENFILENAMEA& dialog) {
+  SetWindowLongPtrA(pane, DWLP_USER, dialog.lCustData);
   AddStyle(GetParent(pane), GWL_STYLE, WS_OVERLAPPEDWINDOW);
   // The frame draws its edges only, and the pane leaves out its children's areas when it erases
   // its background: without this the frame stays black inside.
@@ -44,14 +49,16 @@ void OnSelectionChanged(HWND pane) {
       SendMessageA(GetParent(pane), CDM_GETFILEPATH, MAX_PATH - 1, reinterpret_cast<LPARAM>(path));
   // A path that is cut short would be another file's.
   if (needed > MAX_PATH - 1) path[0] = '\0';
-  LoadPreviewPicture(path);
-  InvalidateRect(GetDlgItem(pane, IDC_OPEN_PREVIEW), nullptr, TRUE);
+  DIBClass& preview = PreviewOf(pane);
+  preview.Free();
+  const bool loaded = LoadImageFile(path, preview) != 0;
+  ShowPreviewPicture(GetDlgItem(pane, IDC_OPEN_PREVIEW), loaded ? &preview : nullptr);
 }
 
 UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam) {
   switch (message) {
     case WM_INITDIALOG:
-      OnInitDialog(pane);
+      OnInitDialog(pane, *reinterpret_cast<const OPENFILENAMEA*>(lParam));
       return 1;
     case WM_SIZE:
       OnSize(pane, HIWORD(lParam));
@@ -60,7 +67,7 @@ UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam
       if (reinterpret_cast<const NMHDR*>(lParam)->code == CDN_SELCHANGE) OnSelectionChanged(pane);
       return 1;
     case WM_DESTROY:
-      ClosePreviewPicture();
+      PreviewOf(pane).Free();
       return 1;
   }
   return 0;
@@ -78,12 +85,14 @@ std::string FolderOf(const char* path) {
 
 int OpenImageWithPreview(HWND owner, char (&path)[MAX_PATH], BitmapClass& surface) {
   const std::string folder = FolderOf(path);
+  DIBClass preview;
   path[0] = '\0';
   OPENFILENAMEA dialog = FileDialog(owner, path, imageFilter, "bmp");
   dialog.lpstrInitialDir = folder.c_str();
   dialog.lpstrTitle = "Choose file to open";
   dialog.lpTemplateName = MAKEINTRESOURCEA(IDD_OPEN_PREVIEW);
   dialog.lpfnHook = OpenPreviewHook;
+  dialog.lCustData = reinterpret_cast<LPARAM>(&preview);
   dialog.Flags |= OFN_ENABLEHOOK | OFN_ENABLETEMPLATE;
   if (!GetOpenFileNameA(&dialog)) {
     // A buffer that is too small comes back with the needed size in place of a path.

@@ -34,7 +34,7 @@ void AdjustScreenshot() {
                                  doc.adjustLightness, doc.adjustGreyscale == 1});
 }
 
-LRESULT OnPaint(HWND preview) {
+void PaintScreenshot(HWND preview) {
   AdjustScreenshot();
   RepaintView();
   const SIZE client = ClientSize(preview);
@@ -44,71 +44,75 @@ LRESULT OnPaint(HWND preview) {
                (client.cy - doc.screenshot.height) / 2);
   const PaintDc paint(preview);
   picture.BlitTo(paint.get(), 0, 0);
-  return 0;
 }
 
-LRESULT CALLBACK ScreenshotPreviewProc(HWND preview, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) return OnPaint(preview);
-  return DefWindowProcA(preview, message, wParam, lParam);
-}
+class ScreenshotSettingsDialog final : public Dialog {
+ private:
+  INT_PTR OnInit() override;
+  INT_PTR OnCommand(int id, UINT notification) override;
+  INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT OnPreviewMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
+  void OnSliderMoved(HWND trackbar) const;
+  void OnGreyscale() const;
+  void RefreshPreview() const { InvalidateRect(preview.Control(), nullptr, TRUE); }
 
-void RefreshPreview(HWND dialog) {
-  InvalidateRect(GetDlgItem(dialog, IDC_SHOT_PREVIEW), nullptr, TRUE);
-}
+  ControlHook preview;
+};
 
-INT_PTR OnInitDialog(HWND dialog) {
-  ReplaceWindowProc(GetDlgItem(dialog, IDC_SHOT_PREVIEW), ScreenshotPreviewProc);
+INT_PTR ScreenshotSettingsDialog::OnInit() {
+  preview.Attach(Control(IDC_SHOT_PREVIEW), [this](UINT message, WPARAM wParam, LPARAM lParam) {
+    return OnPreviewMessage(message, wParam, lParam);
+  });
   for (const Slider& slider : kSliders) {
-    SendDlgItemMessageA(dialog, slider.id, TBM_SETRANGE, TRUE, MAKELPARAM(0, slider.last));
-    SendDlgItemMessageA(dialog, slider.id, TBM_SETPOS, TRUE, kNeutral);
+    Send(slider.id, TBM_SETRANGE, TRUE, MAKELPARAM(0, slider.last));
+    Send(slider.id, TBM_SETPOS, TRUE, kNeutral);
     doc.*slider.field = kNeutral;
   }
   doc.adjustGreyscale = 0;
   return TRUE;
 }
 
-void OnSliderMoved(HWND dialog, HWND trackbar) {
+INT_PTR ScreenshotSettingsDialog::OnCommand(int id, UINT) {
+  switch (id) {
+    case IDOK:
+      End(1);
+      return TRUE;
+    case IDCANCEL:
+      End(0);
+      return TRUE;
+    case IDC_SHOT_GREYSCALE:
+      OnGreyscale();
+      break;
+  }
+  return FALSE;
+}
+
+INT_PTR ScreenshotSettingsDialog::OnMessage(UINT message, WPARAM, LPARAM lParam) {
+  if (message == WM_HSCROLL) OnSliderMoved(reinterpret_cast<HWND>(lParam));
+  return FALSE;
+}
+
+LRESULT ScreenshotSettingsDialog::OnPreviewMessage(UINT message, WPARAM wParam,
+                                                   LPARAM lParam) const {
+  if (message != WM_PAINT) return DefWindowProcA(preview.Control(), message, wParam, lParam);
+  PaintScreenshot(preview.Control());
+  return 0;
+}
+
+void ScreenshotSettingsDialog::OnSliderMoved(HWND trackbar) const {
   const int id = GetDlgCtrlID(trackbar);
   for (const Slider& slider : kSliders) {
     if (slider.id != id) continue;
     doc.*slider.field = static_cast<int32_t>(SendMessageA(trackbar, TBM_GETPOS, 0, 0));
   }
-  RefreshPreview(dialog);
+  RefreshPreview();
 }
 
-void OnGreyscale(HWND dialog) {
-  const bool checked = IsDlgButtonChecked(dialog, IDC_SHOT_GREYSCALE) == BST_CHECKED;
-  for (const int id : kColourSliders) EnableWindow(GetDlgItem(dialog, id), !checked);
+void ScreenshotSettingsDialog::OnGreyscale() const {
+  const bool checked = IsDlgButtonChecked(Window(), IDC_SHOT_GREYSCALE) == BST_CHECKED;
+  for (const int id : kColourSliders) EnableWindow(Control(id), !checked);
   doc.adjustGreyscale = checked ? 1 : 0;
-  RefreshPreview(dialog);
-}
-
-INT_PTR OnCommand(HWND dialog, int id) {
-  switch (id) {
-    case IDOK:
-      EndDialog(dialog, 1);
-      return TRUE;
-    case IDCANCEL:
-      EndDialog(dialog, 0);
-      return TRUE;
-    case IDC_SHOT_GREYSCALE:
-      OnGreyscale(dialog);
-      break;
-  }
-  return FALSE;
-}
-
-INT_PTR CALLBACK ScreenshotSettingsProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_INITDIALOG:
-      return OnInitDialog(dialog);
-    case WM_HSCROLL:
-      OnSliderMoved(dialog, reinterpret_cast<HWND>(lParam));
-      break;
-    case WM_COMMAND:
-      return OnCommand(dialog, LOWORD(wParam));
-  }
-  return FALSE;
+  RefreshPreview();
 }
 
 }  // namespace
@@ -120,7 +124,7 @@ int OpenScreenshotSettings(HWND owner) {
     return 0;
   }
   doc.screenshotOriginal = doc.screenshot;
-  if (RunDialog(IDD_SCREENSHOT_SETTINGS, owner, ScreenshotSettingsProc) == 0) {
+  if (ScreenshotSettingsDialog().Run(IDD_SCREENSHOT_SETTINGS, owner) == 0) {
     doc.screenshot = doc.screenshotOriginal;
   }
   RepaintView();

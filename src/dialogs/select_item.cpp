@@ -27,14 +27,6 @@ void SelectLineOf(HWND list, int32_t index) {
   }
 }
 
-INT_PTR OnInitDialog(HWND dialog) {
-  const HWND list = GetDlgItem(dialog, IDC_SELECT_LIST);
-  for (int32_t i = 0; i < doc.items.Count(); ++i) AddLine(list, i);
-  if (doc.selectedItem != -1) SelectLineOf(list, doc.selectedItem);
-  SetFocus(list);
-  return FALSE;
-}
-
 void OnLineSelected(HWND list) {
   const LRESULT line = SendMessageA(list, LB_GETCURSEL, 0, 0);
   if (line == LB_ERR) return;
@@ -42,27 +34,23 @@ void OnLineSelected(HWND list) {
   if (doc.items.Contains(static_cast<int32_t>(index))) SelectItem(static_cast<int32_t>(index));
 }
 
-INT_PTR OnCommand(HWND dialog, int id, UINT notification) {
-  if (id == IDC_SELECT_LIST && notification == LBN_SELCHANGE) {
-    OnLineSelected(GetDlgItem(dialog, id));
+class SelectItemDialog final : public Dialog {
+ private:
+  INT_PTR OnInit() override {
+    const HWND list = Control(IDC_SELECT_LIST);
+    for (int32_t i = 0; i < doc.items.Count(); ++i) AddLine(list, i);
+    if (doc.selectedItem != -1) SelectLineOf(list, doc.selectedItem);
+    SetFocus(list);
+    return FALSE;
   }
-  if (id == IDCANCEL) EndDialog(dialog, 0);
-  return FALSE;
-}
 
-INT_PTR CALLBACK SelectItemProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
-  switch (message) {
-    case WM_INITDIALOG:
-      return OnInitDialog(dialog);
-    case WM_COMMAND:
-      return OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
-    case WM_CLOSE:
-      EndDialog(dialog, 0);
-      return TRUE;
+  INT_PTR OnCommand(int id, UINT notification) override {
+    if (id == IDC_SELECT_LIST && notification == LBN_SELCHANGE) OnLineSelected(Control(id));
+    if (id == IDCANCEL) End(0);
+    return FALSE;
   }
-  return FALSE;
-}
+};
 
 }  // namespace
 
-void OpenSelectItem() { RunDialog(IDD_SELECT_ITEM, doc.mainWindow, SelectItemProc); }
+void OpenSelectItem() { SelectItemDialog().Run(IDD_SELECT_ITEM, doc.mainWindow); }

@@ -4,6 +4,7 @@
 
 #include "document/item_list.h"
 #include "imaging/dib_class.h"
+#include "imaging/gdi_handle.h"
 #include "imaging/image_class.h"
 #include "platform/win32.h"
 
@@ -57,8 +58,8 @@ struct LoadScreenDoc {
   int32_t adjustRed = 0, adjustGreen = 0, adjustBlue = 0;
   int32_t adjustLightness = 0;
   int32_t adjustGreyscale = 0;
-  HFONT aboutTitleFont = nullptr;
-  HFONT linkFont = nullptr;
+  FontHandle aboutTitleFont;
+  FontHandle linkFont;
   int32_t linkClassRegistered = 0;
 
   HINSTANCE instance = nullptr;

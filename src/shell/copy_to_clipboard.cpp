@@ -1,17 +1,19 @@
 #include "shell/copy_to_clipboard.h"
 
+#include <utility>
+
 #include "document/composition.h"
 #include "document/load_screen_doc.h"
+#include "imaging/gdi_handle.h"
 #include "imaging/memory_dc.h"
 
 namespace {
 
-// Whether the clipboard took the bitmap, which is the system's from then on.
-bool GiveToClipboard(HBITMAP bitmap) {
-  if (!OpenClipboard(doc.mainWindow)) return false;
-  const bool taken = EmptyClipboard() && SetClipboardData(CF_BITMAP, bitmap);
+void GiveToClipboard(BitmapHandle bitmap) {
+  if (!OpenClipboard(doc.mainWindow)) return;
+  // A bitmap that the clipboard takes is the system's from then on.
+  if (EmptyClipboard() && SetClipboardData(CF_BITMAP, bitmap.get())) bitmap.release();
   CloseClipboard();
-  return taken;
 }
 
 }  // namespace
@@ -22,12 +24,12 @@ void CopyToClipboard() {
   ComposeLoadScreen(&picture);
 
   const WindowDc screen(nullptr);
-  HBITMAP bitmap = CreateCompatibleBitmap(screen.get(), picture.width, picture.height);
+  BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), picture.width, picture.height));
   if (!bitmap) return;
   {
     // A bitmap that is still selected into a device context can't change hands.
-    const MemoryDc memory(screen.get(), bitmap);
+    const MemoryDc memory(screen.get(), bitmap.get());
     picture.BlitTo(memory.get(), 0, 0);
   }
-  if (!GiveToClipboard(bitmap)) DeleteObject(bitmap);
+  GiveToClipboard(std::move(bitmap));
 }

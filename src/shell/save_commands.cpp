@@ -4,13 +4,11 @@
 #include "dialogs/shp_options.h"
 #include "document/composition.h"
 #include "document/load_screen_doc.h"
-#include "resources/resource.h"
 
 int SaveAsShp() {
   constexpr char kFilter[] = "SHP(YR/RA2) files(*.shp)\0*.shp\0All Files (*.*)\0*.*\0";
   if (AskSaveName(doc.mainWindow, doc.lastFilePath, kFilter, "shp")) {
-    DialogBoxParamA(doc.instance, MAKEINTRESOURCEA(IDD_SHP_OPTIONS), doc.mainWindow, ShpOptionsProc,
-                    reinterpret_cast<LPARAM>(doc.lastFilePath));
+    OpenShpOptions(doc.lastFilePath);
   }
   return 1;
 }

@@ -38,6 +38,14 @@ HWND CreateMainWindow() {
                          doc.instance, nullptr);
 }
 
+void RunMessageLoop() {
+  MSG message{};
+  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+  }
+}
+
 }  // namespace
 
 void FindAppDir() {
@@ -56,8 +64,6 @@ bool StartEditor(HINSTANCE instance, int showCommand) {
   doc.appIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_CORVANTA));
   if (!RegisterEditorClass(kMainClassName, MainWindowProc)) return false;
   if (!RegisterEditorClass(kViewClassName, ViewProc)) return false;
-  doc.worldMap2xX = doc.targetBoxX = 232;
-  doc.worldMap2xY = doc.targetBoxY = 103;
   RegisterLinkClass();
   doc.mainWindow = CreateMainWindow();
   if (!doc.mainWindow) return false;
@@ -76,12 +82,7 @@ void ShutDownEditor() {
 
 int RunEditor(HINSTANCE instance, int showCommand) {
   FindAppDir();
-  if (!StartEditor(instance, showCommand)) return 0;
-  MSG message{};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-    TranslateMessage(&message);
-    DispatchMessageA(&message);
-  }
+  if (StartEditor(instance, showCommand)) RunMessageLoop();
   ShutDownEditor();
   return 0;
 }

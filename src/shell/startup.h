@@ -13,5 +13,5 @@ void FindAppDir();
 // where there is one to give, when the editor can't start.
 bool StartEditor(HINSTANCE instance, int showCommand);
 
-// Frees what start-up and editing have made, after the message loop has ended.
+// Frees what start-up and editing have made, after the message loop has ended or start-up failed.
 void ShutDownEditor();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/window_pixels.h"
+#include "imaging/image_files.h"
 #include "support/case_name.h"
 #include "support/editor_fixture.h"
 
@@ -42,20 +43,18 @@ class ImagePreviewTest : public EditorFixture {
  protected:
   void SetUp() override {
     EditorFixture::SetUp();
-    OpenPreviewPicture();
     control = CreateWindowExA(0, "ImagePreview", "", WS_POPUP | WS_VISIBLE, 0, 0, 200, 180,
                               doc.mainWindow, nullptr, GetModuleHandleA(nullptr), nullptr);
     ASSERT_NE(nullptr, control);
   }
   void TearDown() override {
     DestroyWindow(control);
-    ClosePreviewPicture();
     EditorFixture::TearDown();
   }
 
   void Show(const std::string& path) {
-    LoadPreviewPicture(path.c_str());
-    InvalidateRect(control, nullptr, TRUE);
+    picture.Free();
+    ShowPreviewPicture(control, LoadImageFile(path.c_str(), picture) ? &picture : nullptr);
   }
   // Whether any text stands in rows from top to below bottom.
   bool HasText(int top, int bottom) {
@@ -68,6 +67,7 @@ class ImagePreviewTest : public EditorFixture {
   }
 
   HWND control = nullptr;
+  DIBClass picture;
 };
 
 TEST_F(ImagePreviewTest, SaysWhenThereIsNothingToShow) {

@@ -58,9 +58,9 @@ TEST_F(LinkControlTest, TextIsBlueOnTheDialogFace) {
 }
 
 TEST_F(LinkControlTest, FontIsMadeOnce) {
-  const HFONT font = doc.linkFont;
+  const HFONT font = doc.linkFont.get();
   RegisterLinkClass();
-  EXPECT_EQ(font, doc.linkFont);
+  EXPECT_EQ(font, doc.linkFont.get());
   LOGFONTA description{};
   GetObjectA(font, sizeof description, &description);
   EXPECT_EQ(15, description.lfHeight);

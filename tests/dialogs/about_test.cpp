@@ -35,7 +35,7 @@ class AboutTest : public EditorFixture {
 TEST_F(AboutTest, ShowsTitleLinkAndReadme) {
   Open([](HWND dialog) {
     EXPECT_EQ("Corvanta 1.1", Text(dialog, IDC_ABOUT_TITLE));
-    EXPECT_EQ(reinterpret_cast<LRESULT>(doc.aboutTitleFont),
+    EXPECT_EQ(reinterpret_cast<LRESULT>(doc.aboutTitleFont.get()),
               SendDlgItemMessageA(dialog, IDC_ABOUT_TITLE, WM_GETFONT, 0, 0));
     EXPECT_EQ("Visit for the  last updates", Text(dialog, IDC_ABOUT_LINK));
     EXPECT_EQ(kReadme, Text(dialog, IDC_ABOUT_README));
