@@ -1,85 +1,67 @@
 #include "imagelib/file_bytes.h"
 
 #include <algorithm>
-#include <fstream>
 #include <string>
-#include <system_error>
+#include <string_view>
 
 #include "imagelib/container.h"
+#include "imagelib/system_files.h"
 
 namespace imagelib {
 namespace {
 
-namespace fs = std::filesystem;
-
 // The largest picture uncompressed, with some room for what else a file may carry.
-constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{kMaxSide} * kMaxSide * 4 + 16 * 1024 * 1024;
+constexpr std::uint64_t kMaxFileBytes = std::uint64_t{kMaxSide} * kMaxSide * 4 + 16 * 1024 * 1024;
 
-bool ReadInto(std::ifstream& stream, std::span<std::uint8_t> target) {
-  const auto count = static_cast<std::streamsize>(target.size());
-  stream.read(reinterpret_cast<char*>(target.data()), count);
-  return stream.gcount() == count;
+bool ReadInto(std::FILE* file, std::span<std::uint8_t> target) {
+  return std::fread(target.data(), 1, target.size(), file) == target.size();
 }
 
-// A name in the same folder that no file has. Short, since the folder's path may be nearly as long
-// as the system allows; empty if there is none.
-fs::path UnusedName(const fs::path& folder) {
-  for (int i = 0; i < 100; ++i) {
-    fs::path name = folder / ("~img" + std::to_string(i) + ".tmp");
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(name, error))) return name;
+// Creates a file with a name of its own in the same folder. Short, since the folder's path may be
+// nearly as long as the system allows. Created at once, so that nobody else can take the name.
+FileHandle CreateBeside(std::string_view path, std::string* fresh) {
+  const std::string_view folder = path.substr(0, path.find_last_of("\\/:") + 1);
+  char name[] = "~img00.tmp";
+  bool taken = true;
+  for (int i = 0; i < 100 && taken; ++i) {
+    name[4] = static_cast<char>('0' + i / 10);
+    name[5] = static_cast<char>('0' + i % 10);
+    fresh->assign(folder).append(name);
+    if (FileHandle file = CreateNewFile(fresh->c_str(), &taken)) return file;
   }
-  return {};
+  return nullptr;
 }
 
-// A rename would replace a write-protected file on some systems and not on others.
-bool MayReplace(const fs::path& path) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::exists(status)) return true;
-  return fs::is_regular_file(status) &&
-         (status.permissions() & fs::perms::owner_write) != fs::perms::none;
-}
-
-bool WriteNewFile(const fs::path& path, ByteView bytes) {
-  std::ofstream stream(path, std::ios::binary | std::ios::trunc);
-  if (!stream) return false;
-  stream.write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
-  stream.close();
-  return !stream.fail();
+bool WriteAndClose(FileHandle file, ByteView bytes) {
+  const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+  // What is still buffered is written now, and may not fit.
+  return std::fclose(file.release()) == 0 && written;
 }
 
 }  // namespace
 
-std::optional<Bytes> ReadPictureFile(const fs::path& path) {
-  std::error_code error;
-  if (!fs::is_regular_file(path, error)) return std::nullopt;
-  const std::uintmax_t size = fs::file_size(path, error);
-  if (error || size > kMaxFileBytes) return std::nullopt;
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) return std::nullopt;
+std::optional<Bytes> ReadPictureFile(const char* path) {
+  std::uint64_t size = 0;
+  const FileHandle file = OpenOrdinaryFile(path, &size);
+  if (!file || size > kMaxFileBytes) return std::nullopt;
 
   // A film chosen by mistake need not be read whole to be refused.
-  Bytes bytes(std::min<std::size_t>(static_cast<std::size_t>(size), 16));
-  if (!ReadInto(stream, bytes)) return std::nullopt;
+  Bytes bytes(static_cast<std::size_t>(std::min<std::uint64_t>(size, 16)));
+  if (!ReadInto(file.get(), bytes)) return std::nullopt;
   if (TypeOfContent(bytes) == FileType::kUnknown) return std::nullopt;
   const std::size_t head = bytes.size();
   bytes.resize(static_cast<std::size_t>(size));
-  if (!ReadInto(stream, std::span(bytes).subspan(head))) return std::nullopt;
+  if (!ReadInto(file.get(), std::span(bytes).subspan(head))) return std::nullopt;
   return bytes;
 }
 
-bool ReplaceFile(const fs::path& path, ByteView bytes) {
-  if (path.empty() || !MayReplace(path)) return false;
-  const fs::path fresh = UnusedName(path.parent_path());
-  if (fresh.empty()) return false;
-  std::error_code error;
-  if (WriteNewFile(fresh, bytes)) {
-    fs::rename(fresh, path, error);
-    if (!error) return true;
-  }
-  fs::remove(fresh, error);
+bool ReplaceFile(const char* path, ByteView bytes) {
+  if (!MayReplace(path)) return false;
+  std::string fresh;
+  FileHandle file = CreateBeside(path, &fresh);
+  if (!file) return false;
+  if (WriteAndClose(std::move(file), bytes) && MoveOver(fresh.c_str(), path)) return true;
+  RemoveFile(fresh.c_str());
   return false;
 }
 

@@ -41,7 +41,7 @@ struct PictureFile {
 };
 
 std::optional<PictureFile> OpenPicture(const char* path) {
-  std::optional<Bytes> bytes = imagelib::ReadPictureFile(imagelib::SystemPath(path));
+  std::optional<Bytes> bytes = imagelib::ReadPictureFile(path);
   if (!bytes) return std::nullopt;
   const std::optional<Container> container = imagelib::Inspect(*bytes);
   if (!container || !imagelib::CanDecode(container->type)) return std::nullopt;
@@ -80,7 +80,7 @@ bool Save(const char* path, const std::uint32_t* pixels, int width, int height) 
   }
   Bytes file;
   return imagelib::Encode(imagelib::TypeOfName(path), pixels, width, height, &file) &&
-         imagelib::ReplaceFile(imagelib::SystemPath(path), file);
+         imagelib::ReplaceFile(path, file);
 }
 
 }  // namespace

@@ -1,21 +1,12 @@
-#include <algorithm>
 #include <bit>
-#include <string>
 
 #include "imagelib/codecs.h"
-#include "imagelib/file_bytes.h"
 #include "imagelib/native/native_codecs.h"
 
 // Pixels go to and from libpng and libjpeg as bytes B, G, R, 0.
 static_assert(std::endian::native == std::endian::little);
 
 namespace imagelib {
-
-std::filesystem::path SystemPath(const char* path) {
-  std::string converted(path);
-  std::replace(converted.begin(), converted.end(), '\\', '/');
-  return converted;
-}
 
 bool StartCodecs() { return true; }
 

@@ -1,7 +1,4 @@
-#include <string>
-
 #include "imagelib/codecs.h"
-#include "imagelib/file_bytes.h"
 #include "imagelib/wic/wic_objects.h"
 
 namespace imagelib {
@@ -38,15 +35,6 @@ const GUID& ContainerId(FileType type) {
       break;
   }
   return GUID_ContainerFormatBmp;
-}
-
-std::filesystem::path SystemPath(const char* path) {
-  const int length = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, path, -1, nullptr, 0);
-  if (length <= 1) return {};
-  std::wstring wide(static_cast<std::size_t>(length), L'\0');
-  MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, path, -1, wide.data(), length);
-  wide.pop_back();
-  return wide;
 }
 
 bool StartCodecs() {
