@@ -34,13 +34,17 @@ class CropDialog final : public Dialog {
   void LayoutCropDialog() const;
   void Place(int id, int x, int y) const;
   void OnFieldChanged(int id);
+  void MoveRectangle(int32_t x, int32_t y);
+  void ShowRectangle();
   int32_t FieldNumber(int id) const;
   void OnClick(int32_t mouseX, int32_t mouseY);
-  void PaintCropPreview(HDC target) const;
 
   const char* const cropPath;
   bool cropInitialising = true;  // while the dialog fills its fields
   ControlHook preview;
+  // What the preview shows: the picture, dimmed outside the rectangle, which has an outline. Kept,
+  // since the picture may be hundreds of times larger than the rectangle that moves.
+  DIBClass shown;
 };
 
 INT_PTR CropDialog::OnInit() {
@@ -55,6 +59,11 @@ INT_PTR CropDialog::OnInit() {
   preview.Attach(Control(IDC_CROP_PREVIEW), [this](UINT message, WPARAM wParam, LPARAM lParam) {
     return OnPreviewMessage(message, wParam, lParam);
   });
+  if (shown.Create(doc.cropPreview.width, doc.cropPreview.height)) {
+    shown.Draw(doc.cropPreview, 0, 0);
+    DimRegion(shown, 0, 0, shown.width, shown.height);
+    ShowRectangle();
+  }
   LayoutCropDialog();
   cropInitialising = false;
   return TRUE;
@@ -83,7 +92,9 @@ INT_PTR CropDialog::OnMessage(UINT message, WPARAM, LPARAM lParam) {
 LRESULT CropDialog::OnPreviewMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_PAINT) {
     const PaintDc paint(preview.Control());
-    PaintCropPreview(paint.get());
+    const SIZE client = ClientSize(preview.Control());
+    SetStretchBltMode(paint.get(), COLORONCOLOR);
+    shown.StretchTo(paint.get(), 0, 0, client.cx, client.cy);
   }
   if (message == WM_LBUTTONUP) OnClick(LOWORD(lParam), HIWORD(lParam));
   return DefWindowProcA(preview.Control(), message, wParam, lParam);
@@ -113,13 +124,10 @@ void CropDialog::Place(int id, int x, int y) const {
 void CropDialog::OnFieldChanged(int id) {
   if (cropInitialising) return;
   if (id == IDC_CROP_X) {
-    cropX = LimitCrop(FieldNumber(id), doc.cropPreview.width, cropWidth);
+    MoveRectangle(LimitCrop(FieldNumber(id), doc.cropPreview.width, cropWidth), cropY);
   } else if (id == IDC_CROP_Y) {
-    cropY = LimitCrop(FieldNumber(id), doc.cropPreview.height, cropHeight);
-  } else {
-    return;
+    MoveRectangle(cropX, LimitCrop(FieldNumber(id), doc.cropPreview.height, cropHeight));
   }
-  RedrawWindow(preview.Control(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
 // The number of a position field; 0 for one that is negative as an int.
@@ -129,24 +137,28 @@ int32_t CropDialog::FieldNumber(int id) const {
 
 void CropDialog::OnClick(int32_t mouseX, int32_t mouseY) {
   const SIZE client = ClientSize(preview.Control());
-  cropX = CropAroundMouse(mouseX, client.cx, doc.cropPreview.width, cropWidth);
-  cropY = CropAroundMouse(mouseY, client.cy, doc.cropPreview.height, cropHeight);
+  MoveRectangle(CropAroundMouse(mouseX, client.cx, doc.cropPreview.width, cropWidth),
+                CropAroundMouse(mouseY, client.cy, doc.cropPreview.height, cropHeight));
   SetDlgItemInt(Window(), IDC_CROP_X, static_cast<UINT>(cropX), FALSE);
   SetDlgItemInt(Window(), IDC_CROP_Y, static_cast<UINT>(cropY), FALSE);
-  const WindowDc target(preview.Control());
-  PaintCropPreview(target.get());
+  UpdateWindow(preview.Control());
 }
 
-void CropDialog::PaintCropPreview(HDC target) const {
-  if (!doc.cropPreview.valid) return;
-  DIBClass picture(doc.cropPreview.width, doc.cropPreview.height);
-  if (!picture.valid) return;
-  picture.Draw(doc.cropPreview, 0, 0);
-  DimOutside(picture, cropX, cropY, cropWidth, cropHeight);
-  picture.DrawFrame(cropX, cropY, cropWidth, cropHeight, kOutline);
-  const SIZE client = ClientSize(preview.Control());
-  SetStretchBltMode(target, COLORONCOLOR);
-  picture.StretchTo(target, 0, 0, client.cx, client.cy);
+void CropDialog::MoveRectangle(int32_t x, int32_t y) {
+  if (x == cropX && y == cropY) return;
+  if (shown.valid) {
+    shown.CopyRegion(doc.cropPreview, cropX, cropY, cropX, cropY, cropWidth, cropHeight);
+    DimRegion(shown, cropX, cropY, cropWidth, cropHeight);
+  }
+  cropX = x;
+  cropY = y;
+  ShowRectangle();
+  RedrawWindow(preview.Control(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
+void CropDialog::ShowRectangle() {
+  shown.CopyRegion(doc.cropPreview, cropX, cropY, cropX, cropY, cropWidth, cropHeight);
+  shown.DrawFrame(cropX, cropY, cropWidth, cropHeight, kOutline);
 }
 
 }  // namespace

@@ -8,10 +8,6 @@ namespace {
 
 constexpr uint32_t kDimming = 128;
 
-void Dim(uint32_t* first, uint32_t* last) {
-  for (; first < last; ++first) *first = Darken(*first, kDimming);
-}
-
 }  // namespace
 
 int32_t LimitCrop(int64_t position, int32_t picture, int32_t crop) {
@@ -26,15 +22,10 @@ int32_t CropAroundMouse(int32_t mouse, int32_t preview, int32_t picture, int32_t
   return LimitCrop(static_cast<int64_t>(start), picture, crop);
 }
 
-void DimOutside(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height) {
-  for (int32_t row = 0; row < picture.height; ++row) {
-    uint32_t* const pixels = picture.Row(row);
-    uint32_t* const end = pixels + picture.width;
-    if (row < y || row >= y + height) {
-      Dim(pixels, end);
-    } else {
-      Dim(pixels, pixels + x);
-      Dim(pixels + x + width, end);
-    }
+void DimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height) {
+  for (int32_t row = y; row < y + height; ++row) {
+    uint32_t* const pixels = picture.Row(row) + x;
+    std::transform(pixels, pixels + width, pixels,
+                   [](uint32_t colour) { return Darken(colour, kDimming); });
   }
 }

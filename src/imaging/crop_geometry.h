@@ -14,5 +14,5 @@ int32_t LimitCrop(int64_t position, int32_t picture, int32_t crop);
 // picture.
 int32_t CropAroundMouse(int32_t mouse, int32_t preview, int32_t picture, int32_t crop);
 
-// Halves the brightness of everything outside the rectangle, which lies inside the picture.
-void DimOutside(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height);
+// Halves the brightness of a rectangle, which lies inside the picture.
+void DimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height);

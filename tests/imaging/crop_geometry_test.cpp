@@ -42,14 +42,10 @@ TEST(CropGeometryTest, PositionsStayInsideThePicture) {
   EXPECT_EQ(0, LimitCrop(5, 100, 234));
 }
 
-TEST(CropGeometryTest, DimsEverythingOutsideTheRectangle) {
-  const Legend legend = {{'#', 0x808080}, {'.', 0x404040}};
+TEST(CropGeometryTest, DimsARectangle) {
   ImageClass picture = PlainPicture(5, 4, 0x808080);
-  DimOutside(picture, 1, 1, 3, 2);
-  EXPECT_EQ(Rows(".....|.###.|.###.|....."), Drawn(picture, legend));
-  picture.Fill(0x808080);
-  DimOutside(picture, 0, 0, 5, 4);
-  EXPECT_EQ(Rows("#####|#####|#####|#####"), Drawn(picture, legend));
+  DimRegion(picture, 1, 1, 3, 2);
+  EXPECT_EQ(Rows("#####|#...#|#...#|#####"), Drawn(picture, {{'#', 0x808080}, {'.', 0x404040}}));
 }
 
 }  // namespace
