@@ -28,14 +28,18 @@ class Package:
             self.faults.append(fault)
 
     def picture(self, name):
-        """The picture as numbers, or None after noting that it is missing or not 8-bit RGB."""
+        """The picture as numbers, or None after noting that it is missing or badly stored."""
         path = self.folder / "Templates" / name
         if not path.is_file():
             self.expect(False, f"{name} is missing")
             return None
         depth, kind = struct.unpack(">BB", path.read_bytes()[24:26])
-        self.expect((depth, kind) == (8, 2), f"{name} is not 8-bit RGB without alpha")
-        return np.array(Image.open(path).convert("RGB")).astype(int)
+        picture = Image.open(path).convert("RGB")
+        if picture.getcolors():  # at most 256
+            self.expect(kind == 3, f"{name} has few colours, but no palette")
+        else:
+            self.expect((depth, kind) == (8, 2), f"{name} is not 8-bit RGB without alpha")
+        return np.array(picture).astype(int)
 
     def sized(self, name, size):
         picture = self.picture(name)
