@@ -1,6 +1,7 @@
 #include "imaging/image_files.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -40,17 +41,13 @@ bool InitImageFiles() {
 int LoadImageFile(const char* path, BitmapClass& surface) {
   ImageSize size{};
   if (!ImageGetSize(path, &size) || size.width <= 0 || size.height <= 0) return 0;
-  std::vector<uint32_t> buffer(PixelCount(size.width, size.height));
-  if (!ImageLoad(path, buffer.data())) return 0;
-  if (!surface.Create(size.width, size.height)) {
-    surface.Free();
-    return 0;
-  }
-  const uint32_t* from = buffer.data();
-  for (int32_t y = 0; y < size.height; ++y, from += size.width) {
-    std::copy_n(from, size.width, surface.Row(y));
-  }
-  return 1;
+  // Not zeroed before the decoder fills it: that takes as long as some decoders.
+  const auto pixels =
+      std::make_unique_for_overwrite<uint32_t[]>(PixelCount(size.width, size.height));
+  if (!ImageLoad(path, pixels.get())) return 0;
+  if (surface.CreateFromPixels(pixels.get(), size.width, size.height)) return 1;
+  surface.Free();
+  return 0;
 }
 
 int SaveImageFile(const char* path, const BitmapClass& surface) {
