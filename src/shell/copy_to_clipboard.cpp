@@ -12,7 +12,9 @@ namespace {
 void GiveToClipboard(BitmapHandle bitmap) {
   if (!OpenClipboard(doc.mainWindow)) return;
   // A bitmap that the clipboard takes is the system's from then on.
-  if (EmptyClipboard() && SetClipboardData(CF_BITMAP, bitmap.get())) bitmap.release();
+  if (EmptyClipboard() && SetClipboardData(CF_BITMAP, bitmap.get())) {
+    static_cast<void>(bitmap.release());
+  }
   CloseClipboard();
 }
 
