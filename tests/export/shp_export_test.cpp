@@ -2,131 +2,144 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <filesystem>
 
-#include "document/composition.h"
-#include "document/item_operations.h"
-#include "support/editor_fixture.h"
 #include "support/file_content.h"
-#include "support/sprite.h"
+#include "support/temp_folder.h"
+#include "support/template_pictures.h"
 
 namespace {
 
+using Colours = std::vector<uint32_t>;
 using Steps = std::vector<ExportStep>;
 
-class ShpExportTest : public EditorFixture {
+class ShpExportTest : public testing::Test {
  protected:
-  // Runs the export of the document; the steps that it reported stand in steps_.
-  FailedStep Export(int mode, int32_t colours) {
+  // Runs an export; the steps that it reported stand in steps_.
+  FailedStep Export(const ImageClass& picture, int mode, int32_t colours) {
     steps_.clear();
-    return RunShpExport(Composed(), {shp_.c_str(), mode, pal_.c_str(), colours},
+    return RunShpExport(picture, {shp_.c_str(), mode, pal_.c_str(), colours},
                         [this](ExportStep step) { steps_.push_back(step); });
   }
-  // The pixels of the sprite file, as palette indices.
-  std::vector<uint8_t> Indices() const {
-    const std::string content = ReadContent(File("out.shp"));
-    EXPECT_EQ(416032U, content.size());
-    return std::vector<uint8_t>(content.begin() + 32, content.end());
-  }
-  static ImageClass Composed() {
-    ImageClass picture;
-    picture.Create(kPictureWidth, kPictureHeight);
-    ComposeLoadScreen(&picture);
-    return picture;
-  }
-  // Holds the two files against the picture: each pixel has the nearest of the first n entries.
-  void ExpectMapped(const ShpPalette& palette, int32_t n) const {
-    const ImageClass picture = Composed();
-    const std::vector<uint8_t> indices = Indices();
-    size_t at = 0;
-    for (int32_t y = 0; y < kPictureHeight; ++y) {
-      for (int32_t x = 0; x < kPictureWidth; ++x, ++at) {
-        const uint32_t pixel = picture.ReadPixel(x, y);
-        const auto part = [pixel](int shift) {
-          return static_cast<int32_t>(pixel >> shift & 0xFF);
-        };
-        if (NearestColor(palette, part(16), part(8), part(0), n) == indices[at]) continue;
-        FAIL() << "entry " << int{indices[at]} << " at " << x << ", " << y;
-      }
-    }
-  }
 
-  std::string shp_ = AppPath("out.shp"), pal_ = AppPath("out.pal");
+  TempFolder folder_;
+  std::string shp_ = folder_.Path("a.shp"), pal_ = folder_.Path("a.pal");
   Steps steps_;
 };
 
-TEST_F(ShpExportTest, GeneratedPaletteIsWrittenAndUsed) {
-  for (const int32_t colours : {256, 40, 5, 1}) {
-    ASSERT_STREQ(nullptr, Export(kGeneratePalette, colours));
-    const auto [palette, used] = GeneratedPalette(Composed(), colours);
-    EXPECT_LE(used, colours);
-    EXPECT_EQ(SixBitBytes(palette), ReadContent(File("out.pal"))) << colours << " colours";
-    ExpectMapped(palette, used);
+// The last eight are one leaf in the end, which leaves ten of sixteen. Black is nearer to the
+// unused entries than to its own.
+const Colours kEightMerged = {0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF,
+                              0xFFFFFF, 0x800000, 0x008000, 0x202020, 0x202000, 0x200020,
+                              0x200000, 0x002020, 0x002000, 0x000020, 0x000000};
+const Colours kTenEntries = {0x040404, 0x00003F, 0x002000, 0x003F00, 0x003F3F,
+                             0x200000, 0x3F0000, 0x3F003F, 0x3F3F00, 0x3F3F3F};
+
+const struct {
+  const char* name;
+  bool exists;
+  int32_t colours;
+  Colours pixels;
+  Colours palette;  // 0x00RRGGBB in six bits; black follows
+  std::vector<uint8_t> indices;
+} kRows[] = {
+    {"OwnEntries", false, 256, {0x8003FF, 0xFB, 7, 0xFB}, {1, 0x3E, 0x20003F}, {2, 1, 0, 1}},
+    {"Unused",
+     false,
+     16,
+     kEightMerged,
+     kTenEntries,
+     {6, 3, 1, 8, 7, 4, 9, 5, 2, 0, 0, 0, 0, 0, 0, 0, 0}},
+    {"First3", true, 3, {0xFFFFFF, 0x4000, 0xFC0000}, {0, 0x3F3F3F, 0x3F0000, 0x1000}, {1, 0, 2}},
+};
+
+TEST_F(ShpExportTest, KnownPicturesGiveKnownFiles) {
+  for (const auto& row : kRows) {
+    std::string palette;
+    for (const uint32_t entry : row.palette) {
+      for (const int shift : {16, 8, 0}) palette += static_cast<char>(entry >> shift);
+    }
+    palette.resize(768);
+    if (row.exists) palette += "left alone";
+    WriteContent(pal_, row.exists ? palette : std::string(1000, 'x'));
+    ImageClass picture;
+    picture.CreateFromPixels(row.pixels.data(), static_cast<int32_t>(row.pixels.size()), 1);
+    EXPECT_STREQ(nullptr, Export(picture, row.exists, row.colours)) << row.name;
+    EXPECT_EQ(palette, ReadContent(pal_)) << row.name;
+    const std::string sprite = ReadContent(shp_);
+    EXPECT_EQ(row.indices, std::vector<uint8_t>(sprite.begin() + 32, sprite.end())) << row.name;
   }
 }
 
-TEST_F(ShpExportTest, ThirteenStepsAreReported) {
-  Steps expected = {ExportStep::PaletteMade};
-  expected.insert(expected.end(), 11, ExportStep::RowsMapped);
-  expected.push_back(ExportStep::DataWritten);
-  ASSERT_STREQ(nullptr, Export(kGeneratePalette, 16));
-  EXPECT_EQ(expected, steps_);
-  ASSERT_STREQ(nullptr, Export(kExistingPalette, 16));
-  EXPECT_EQ(expected, steps_);
-}
-
-TEST_F(ShpExportTest, ExistingPaletteIsReadAndLeftAlone) {
-  std::string content;
-  for (int i = 0; i < 768; ++i) content += static_cast<char>(i * 37 % 64);
-  WriteContent(File("out.pal"), content + "trailer");
-  ASSERT_STREQ(nullptr, Export(kExistingPalette, 16));
-  EXPECT_EQ(content + "trailer", ReadContent(File("out.pal")));
-  for (const uint8_t index : Indices()) ASSERT_LT(index, 16);
-  ShpPalette palette;
-  ASSERT_STREQ(nullptr, ReadPalFile(pal_.c_str(), palette));
-  ExpectMapped(palette, 16);
-}
-
-TEST_F(ShpExportTest, OneColourFillsTheSpriteWithEntryZero) {
-  AddItem(PlainPicture(800, 520, 0x8040C7), 0, 0, 0);
-  ASSERT_STREQ(nullptr, Export(kGeneratePalette, 256));
-  const std::vector<uint8_t> indices = Indices();
-  EXPECT_EQ(std::set<uint8_t>({0}), std::set<uint8_t>(indices.begin(), indices.end()));
-  const std::string palette = ReadContent(File("out.pal"));
-  EXPECT_EQ("\x20\x10\x31" + std::string(765, '\0'), palette) << "unused entries are black";
+TEST_F(ShpExportTest, WholePictureTakesThirteenSteps) {
+  Steps expected(13, ExportStep::RowsMapped);
+  expected.front() = ExportStep::PaletteMade;
+  expected.back() = ExportStep::DataWritten;
+  ImageClass picture = PlainPicture(800, 520, 0);
+  picture.PutPixel(0, 0, 0xFFFFFF);
+  picture.PutPixel(798, 519, 0xFFFFFF);
+  for (const int mode : {kGeneratePalette, kExistingPalette}) {
+    EXPECT_STREQ(nullptr, Export(picture, mode, 2));
+    EXPECT_EQ(expected, steps_);
+  }
+  const std::string head(
+      "\0\0\x20\x03\x08\x02\x01\0\0\0\0\0\x20\x03\x08\x02"
+      "\0\0\0\0\0\0\0\0\0\0\0\0\x20\0\0\0",
+      32);
+  const std::string black(416000 - 3, '\0');
+  EXPECT_EQ(head + '\1' + black + '\1' + '\0', ReadContent(shp_));
 }
 
 struct Failure {
   const char* name;
   int mode;
-  const char* shp;
-  const char* pal;
+  const char *shp, *pal;
   const char* message;
   size_t shpSize;  // what is left of the sprite file
 };
 
 const Failure kFailures[] = {
-    {"PaletteMissing", kExistingPalette, "a.shp", "none.pal", "PAL file open error!", 0},
-    {"PaletteShort", kExistingPalette, "a.shp", "short.pal", "PAL file read error!", 0},
-    {"PaletteIsAFolder", kExistingPalette, "a.shp", "Templates", "PAL file open error!", 0},
-    {"SpriteFolderMissing", kGeneratePalette, "none\\a.shp", "a.pal", "SHP file open error!", 0},
-    {"SpriteIsAFolder", kGeneratePalette, "Templates", "a.pal", "SHP file open error!", 0},
-    {"PaletteFolderMissing", kGeneratePalette, "a.shp", "none\\a.pal", "Palette file create error!",
-     416032},
-    {"PaletteFileIsAFolder", kGeneratePalette, "a.shp", "Templates", "Palette file create error!",
-     416032},
+    {"PaletteMissing", kExistingPalette, "b.shp", "none.pal", "PAL file open error!", 0},
+    {"PaletteShort", kExistingPalette, "b.shp", "short.pal", "PAL file read error!", 0},
+    {"PaletteIsAFolder", kExistingPalette, "b.shp", "folder", "PAL file open error!", 0},
+    {"SpriteFolderMissing", kGeneratePalette, "none\\b.shp", "b.pal", "SHP file open error!", 0},
+    {"SpriteIsAFolder", kGeneratePalette, "folder", "b.pal", "SHP file open error!", 0},
+    {"PaletteFolderMissing", kGeneratePalette, "b.shp", "none\\b.pal", "Palette file create error!",
+     34},
+    {"PaletteFileIsAFolder", kGeneratePalette, "b.shp", "folder", "Palette file create error!", 34},
 };
 
 TEST_F(ShpExportTest, EachFailureLeavesWhatWasWritten) {
-  WriteContent(File("short.pal"), std::string(767, '\1'));
+  WriteContent(folder_.Path("short.pal"), std::string(767, '\1'));
+  std::filesystem::create_directory(folder_.Path("folder"));
   for (const Failure& failure : kFailures) {
-    std::filesystem::remove(File("a.shp"));
-    shp_ = AppPath(failure.shp);
-    pal_ = AppPath(failure.pal);
-    EXPECT_STREQ(failure.message, Export(failure.mode, 256)) << failure.name;
-    EXPECT_EQ(failure.shpSize, ReadContent(File("a.shp")).size()) << failure.name;
-    EXPECT_FALSE(std::filesystem::exists(File("a.pal"))) << failure.name;
+    std::filesystem::remove(folder_.Path("b.shp"));
+    shp_ = folder_.Path(failure.shp);
+    pal_ = folder_.Path(failure.pal);
+    EXPECT_STREQ(failure.message, Export(PlainPicture(2, 1, 1), failure.mode, 256)) << failure.name;
+    EXPECT_EQ(failure.shpSize, ReadContent(folder_.Path("b.shp")).size()) << failure.name;
+    EXPECT_FALSE(std::filesystem::exists(folder_.Path("b.pal"))) << failure.name;
   }
+}
+
+TEST_F(ShpExportTest, DataForAClosedFileIsAnError) {
+  FileClass closed;
+  EXPECT_STREQ("SHP file write error (Image data)!", FinishShpFile(closed, {1, 2, 3}));
+}
+
+TEST_F(ShpExportTest, PaletteIsReadFromItsFirst768BytesOnly) {
+  const std::string file =
+      std::string("\x3F\x0A\0\x40\x41\xFF", 6) + std::string(759, '\0') + "\1\2\3";
+  ShpPalette palette;
+  for (size_t size = 0; size < 768; ++size) {
+    WriteContent(pal_, file.substr(0, size));
+    EXPECT_STREQ("PAL file read error!", ReadPalFile(pal_.c_str(), palette)) << size << " bytes";
+  }
+  WriteContent(pal_, file + "ignored");
+  EXPECT_STREQ(nullptr, ReadPalFile(pal_.c_str(), palette));
+  // Components above 63 wrap.
+  EXPECT_EQ(std::string("\xFC\x28\0\0\x04\xFC", 6) + std::string(759, '\0') + "\x04\x08\x0C",
+            std::string(reinterpret_cast<const char*>(&palette), sizeof palette));
 }
 
 }  // namespace
