@@ -2,43 +2,49 @@
 
 #include <gtest/gtest.h>
 
-#include "support/case_name.h"
+#include "imaging/pixel_colour.h"
+#include "support/surface_text.h"
 #include "support/template_pictures.h"
 
 namespace {
 
-struct AdjustCase {
-  const char* name;
-  ScreenshotAdjustment adjustment;  // red, green, blue, lightness, greyscale
-  uint32_t before, after;
-};
-
-class AdjustColourTest : public testing::TestWithParam<AdjustCase> {};
-
-TEST_P(AdjustColourTest, ChangesEveryPixel) {
-  const AdjustCase& test = GetParam();
-  EXPECT_EQ(test.after, AdjustColour(test.before, test.adjustment));
-  ImageClass picture = PlainPicture(3, 2, test.before);
-  AdjustColours(picture, test.adjustment);
-  for (int32_t i = 0; i < 6; ++i) EXPECT_EQ(test.after, picture.ReadPixel(i % 3, i / 3)) << i;
+TEST(ScreenshotAdjustmentTest, ChangesEveryPixel) {
+  const struct {
+    const char* name;
+    ScreenshotAdjustment adjustment;  // red, green, blue, lightness, greyscale
+    uint32_t before, after;
+  } rows[] = {{"NeutralDropsOne", {}, 0xFF808080, 0x7F7F7F},
+              {"NeutralKeepsZero", {}, 0x000100, 0x000000},
+              {"EachChannelItsFactor", {128, 64, 32, 255, false}, 0xFF80FF, 0x7F201F},
+              {"WhiteOfAnyColour", {0, 0, 0, 511, false}, 0x123456, 0xFFFFFF},
+              {"GreyOfWhite", {0, 0, 0, 255, true}, 0xFFFFFF, 0xFEFEFE},
+              {"GreyOfRed", {0, 0, 0, 255, true}, 0xFF0000, 0x4B4B4B},
+              {"GreyOfGreen", {0, 0, 0, 255, true}, 0x00FF00, 0x969696},
+              {"GreyOfBlue", {0, 0, 0, 255, true}, 0x0000FF, 0x1B1B1B},
+              {"HalfLighter", {255, 255, 255, 383, false}, 0x000000, 0x7F7F7F},
+              {"HalfDarker", {255, 255, 255, 127, false}, 0xFFFFFF, 0x7F7F7F},
+              {"NearlyBlack", {255, 255, 255, 0, false}, 0xFF0201, 0x010100}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(row.after, AdjustColour(row.before, row.adjustment)) << row.name;
+    ImageClass picture = PlainPicture(3, 2, row.before);
+    AdjustColours(picture, row.adjustment);
+    EXPECT_EQ(Rows("aaa|aaa"), Drawn(picture, {{'a', row.after}})) << row.name;
+  }
+  EXPECT_EQ(0x12345678U, Lighten(0x12345678, 257)) << "too much changes nothing";
+  EXPECT_EQ(0x12345678U, Darken(0x12345678, 256));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Settings, AdjustColourTest,
-    testing::Values(AdjustCase{"NeutralDropsOne", {}, 0x808080, 0x7F7F7F},
-                    AdjustCase{"NeutralKeepsZero", {}, 0x000100, 0x000000},
-                    AdjustCase{
-                        "EachChannelItsFactor", {128, 64, 32, 255, false}, 0xFFFFFF, 0x7F3F1F},
-                    AdjustCase{"WhiteOfColour", {0, 0, 0, 511, false}, 0x123456, 0xFFFFFF},
-                    AdjustCase{"GreyIgnoresFactors", {0, 0, 0, 255, true}, 0x00FF00, 0x969696},
-                    AdjustCase{"HalfLighter", {255, 255, 255, 383, false}, 0x000000, 0x7F7F7F},
-                    AdjustCase{"HalfDarker", {255, 255, 255, 127, false}, 0xFFFFFF, 0x7F7F7F}),
-    CaseName());
-
-TEST(AdjustColourTest, EmptyPictureStaysEmpty) {
-  ImageClass nothing;
-  AdjustColours(nothing, {});
-  EXPECT_EQ(0, nothing.valid);
+TEST(PixelColourTest, ColoursAreExchangedAndReplaced) {
+  EXPECT_EQ(0x0C0B0AU, SwapRedBlue(0xFF0A0B0C));
+  const Legend legend = {{'.', 0}, {'2', 2}, {'a', 0xFFFF00}, {'b', 0x01FFFF00}};
+  ImageClass picture;
+  AdjustColours(picture, {});
+  ReplaceColor(picture, 0, 1);
+  EXPECT_FALSE(IsValid(picture));
+  Draw(picture, "ab.|aab", legend);
+  EXPECT_TRUE(IsValid(picture));
+  ReplaceColor(picture, 0xFFFF00, 2);
+  EXPECT_EQ(Rows("2b.|22b"), Drawn(picture, legend)) << "all 32 bits are compared";
 }
 
 }  // namespace
