@@ -1,5 +1,6 @@
 #include "imagelib/imagelib.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
@@ -9,231 +10,160 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using ImageLibRoundTrip = ImageLibTest;
-using ImageLibFiles = ImageLibTest;
-
 struct Size {
-  int width;
-  int height;
+  int width, height;
 };
 
-constexpr Size kSizes[] = {{1, 1}, {2, 3}, {3, 2}, {5, 7}, {76, 60}, {1, 33}, {33, 1}};
-
-// Largest difference of any channel of any pixel.
+// Largest difference of any channel of any pixel of two pictures of one size.
 int Distance(const Picture& a, const Picture& b) {
   int worst = 0;
-  for (std::size_t i = 0; i < a.pixels.size(); ++i) {
-    for (int shift = 0; shift < 32; shift += 8) {
-      const int left = static_cast<int>(a.pixels[i] >> shift & 0xFF);
-      const int right = static_cast<int>(b.pixels[i] >> shift & 0xFF);
-      worst = std::max(worst, std::abs(left - right));
+  for (std::size_t y = 0; y < a.size(); ++y) {
+    for (std::size_t i = 0; i < 4 * a[y].size(); ++i) {
+      const auto channel = [&](const Picture& of) {
+        return of.at(y).at(i / 4) >> i % 4 * 8 & 0xFF;
+      };
+      worst = std::max(worst, std::abs(static_cast<int>(channel(a) - channel(b))));
     }
   }
   return worst;
 }
 
-TEST_F(ImageLibRoundTrip, LosslessTypesGiveTheSamePixels) {
-  for (const char* type : {"png", "bmp", "tif", "tiff"}) {
-    if (!Readable(type)) continue;
-    for (const Size size : kSizes) {
-      SCOPED_TRACE(testing::Message() << type << " " << size.width << "x" << size.height);
+TEST_F(ImageLibTest, PicturesComeBackWithoutTopBytes) {
+  const struct {
+    const char* type;
+    int distance;
+  } rows[] = {{"png", 0}, {"bmp", 0}, {"tif", 0}, {"tiff", 0}, {"jpg", 12}, {"jpeg", 12}};
+  for (const auto& row : rows) {
+    if (!Readable(row.type)) continue;
+    path_ = folder_.Path(std::string("picture.") + row.type);
+    for (const Size size : {Size{1, 1}, Size{2, 3}, Size{5, 7}, Size{76, 60}, Size{33, 1}}) {
       const Picture picture = Gradient(size.width, size.height);
-      const std::string path = folder_.Path(std::string("picture.") + type);
-      ASSERT_NE(SavePicture(path, picture), 0);
-      EXPECT_EQ(LoadPicture(path), picture);
+      Picture saved = picture;
+      saved.back().back() |= 0x81000000;
+      EXPECT_NE(0, SavePicture(path_, saved));
+      EXPECT_LE(Distance(picture, LoadPicture(path_)), row.distance) << path_ << size.width;
     }
   }
 }
 
-TEST_F(ImageLibRoundTrip, JpegComesBackNearly) {
-  for (const char* name : {"picture.jpg", "picture.jpeg"}) {
-    for (const Size size : kSizes) {
-      SCOPED_TRACE(testing::Message() << name << " " << size.width << "x" << size.height);
-      const Picture picture = Gradient(size.width, size.height);
-      ASSERT_NE(SavePicture(folder_.Path(name), picture), 0);
-      const std::optional<Picture> loaded = LoadPicture(folder_.Path(name));
-      ASSERT_TRUE(loaded);
-      ASSERT_EQ(loaded->pixels.size(), picture.pixels.size());
-      EXPECT_LE(Distance(*loaded, picture), 12);
+TEST_F(ImageLibTest, JpegKeepsThinColouredLines) {
+  if (Readable("tif"))
+    GTEST_SKIP() << "Wine's encoder does not keep to the options that it is given";
+  Picture picture(100, std::vector<std::uint32_t>(100));
+  for (std::size_t y = 0; y < 100; ++y) {
+    for (std::size_t x = 0; x < 100; ++x) picture[y][x] = (x * y + x / 3) % 2 ? 0xC02020 : 0x2020C0;
+  }
+  path_ = folder_.Path("picture.jpg");
+  ASSERT_NE(0, SavePicture(path_, picture));
+  EXPECT_LE(Distance(picture, LoadPicture(path_)), 12);
+}
+
+TEST_F(ImageLibTest, ExtensionDecidesTheTypeThatIsWritten) {
+  const struct {
+    const char* magic;
+    std::vector<const char*> names;
+  } rows[] = {{"\x89PNG", {"a.png", "a.b.Png"}},
+              {"\xFF\xD8", {"a.jpg", "a.JPEG"}},
+              {Readable("tif") ? "II*" : "BM", {"a.tif", "a.TIFF"}},
+              {"BM", {"a.bmp", "a.xyz", "a.gif", "a.png.", "a", "png"}}};
+  for (const auto& row : rows) {
+    for (const std::string name : row.names) {
+      EXPECT_NE(0, SavePicture(folder_.Path(name), Gradient(4, 4))) << name;
+      EXPECT_EQ(0U, ReadContent(folder_.Path(name)).find(row.magic)) << name;
     }
   }
 }
 
-TEST_F(ImageLibRoundTrip, TopBytesAreDropped) {
-  const Picture picture{3, 1, {0xFF0000FF, 0x80ABCDEF, 0x01000000}};
-  for (const char* name : {"picture.png", "picture.bmp"}) {
-    SCOPED_TRACE(name);
-    ASSERT_NE(SavePicture(folder_.Path(name), picture), 0);
-    EXPECT_EQ(LoadPicture(folder_.Path(name)), (Picture{3, 1, {0x0000FF, 0xABCDEF, 0}}));
-  }
+TEST_F(ImageLibTest, ContentDecidesTheTypeThatIsRead) {
+  ASSERT_NE(0, SavePicture(path_, Gradient(4, 3)));
+  WriteContent(folder_.Path("picture.jpg"), ReadContent(path_));
+  EXPECT_EQ(Gradient(4, 3), LoadPicture(folder_.Path("picture.jpg")));
+  path_ = folder_.Path("beyond ASCII gr\xC3\xBC\xC3\xA4.png");
+  ASSERT_NE(0, SavePicture(path_, Gradient(4, 3)));
+  EXPECT_EQ(Gradient(4, 3), LoadPicture(path_));
 }
 
-TEST_F(ImageLibFiles, TypeFollowsTheExtension) {
-  struct Row {
-    const char* name;
-    std::string magic;
-  };
-  const std::vector<Row> rows = {
-      {"a.png", "\x89PNG"},   {"a.PNG", "\x89PNG"},
-      {"a.b.Png", "\x89PNG"}, {"a.jpg", "\xFF\xD8"},
-      {"a.JPEG", "\xFF\xD8"}, {"a.bmp", "BM"},
-      {"a.xyz", "BM"},        {"a", "BM"},
-      {"a.png.", "BM"},       {"a.gif", "BM"},
-      {"png", "BM"},          {"a.tif", Readable("tif") ? "II*" : "BM"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    const std::string path = folder_.Path(row.name);
-    ASSERT_NE(SavePicture(path, Gradient(4, 4)), 0);
-    const FileBytes bytes = ReadFileBytes(path);
-    ASSERT_GT(bytes.size(), row.magic.size());
-    EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + std::ssize(row.magic)), row.magic);
-    fs::remove(path);
-  }
-}
-
-TEST_F(ImageLibFiles, ContentDecidesNotTheName) {
-  const Picture picture = Gradient(4, 3);
-  ASSERT_NE(SavePicture(folder_.Path("picture.png"), picture), 0);
-  fs::rename(folder_.Path("picture.png"), folder_.Path("picture.jpg"));
-  EXPECT_EQ(LoadPicture(folder_.Path("picture.jpg")), picture);
-}
-
-TEST_F(ImageLibFiles, NamesBeyondAsciiAreOneFileForSavingAndLoading) {
-  const std::string path = folder_.Path("gr\xC3\xBC\xC3\xA4.png");
-  ASSERT_NE(SavePicture(path, Gradient(4, 3)), 0);
-  EXPECT_EQ(LoadPicture(path), Gradient(4, 3));
-}
-
-TEST_F(ImageLibFiles, WhatIsNoPictureFileCannotBeRead) {
+TEST_F(ImageLibTest, WhatIsNoPictureFileHasNoSize) {
   fs::create_directory(folder_.Path("folder.png"));
-  WriteFileBytes(folder_.Path("empty.png"), {});
-  WriteFileBytes(folder_.Path("text.png"), FileBytes(400, 'x'));
-  for (const std::string& path :
-       {folder_.Path("missing.png"), folder_.Path("folder.png"), folder_.Path("empty.png"),
-        folder_.Path("text.png"), folder_.Path("none/x.png"), std::string()}) {
+  WriteContent(folder_.Path("empty.png"), "");
+  WriteContent(folder_.Path("text.png"), std::string(400, 'x'));
+  for (const char* name :
+       {"missing.png", "folder.png", "empty.png", "text.png", "none/x.png", ""}) {
     ImageSize size{-7, -7};
-    EXPECT_EQ(ImageGetSize(path.c_str(), &size), 0) << path;
-    EXPECT_EQ(size.width, -7) << path;
-    std::uint32_t pixel = 1;
-    EXPECT_EQ(ImageLoad(path.c_str(), &pixel), 0) << path;
-    EXPECT_EQ(pixel, 1u) << path;
+    EXPECT_EQ(0, ImageGetSize(folder_.Path(name).c_str(), &size)) << name;
+    EXPECT_EQ(-7, size.width) << name;
   }
+  EXPECT_EQ(0, ImageGetSize(nullptr, nullptr));
+  EXPECT_EQ(0, ImageLoad(nullptr, nullptr));
+  EXPECT_EQ(0, ImageSave(nullptr, nullptr, 1, 1));
 }
 
-TEST_F(ImageLibFiles, LoadingNeedsTheSizeFirst) {
-  const std::string path = folder_.Path("picture.png");
-  ASSERT_NE(SavePicture(path, Gradient(2, 2)), 0);
-  std::vector<std::uint32_t> pixels(4, 0x5A);
-  EXPECT_EQ(ImageLoad(path.c_str(), pixels.data()), 0);
-  EXPECT_EQ(pixels, std::vector<std::uint32_t>(4, 0x5A));
-}
-
-TEST_F(ImageLibFiles, EachPathHasItsOwnSize) {
-  const std::string first = folder_.Path("first.png");
-  const std::string second = folder_.Path("second.png");
-  ASSERT_NE(SavePicture(first, Gradient(2, 2)), 0);
-  ASSERT_NE(SavePicture(second, Gradient(9, 9)), 0);
+TEST_F(ImageLibTest, LoadsOnlyAPictureOfTheSizeThatWasReported) {
+  std::vector<std::uint32_t> pixels(81, 0x5A);
+  const std::vector<std::uint32_t> untouched = pixels;
+  const std::string other = folder_.Path("other.png");
   ImageSize size{};
-  ASSERT_NE(ImageGetSize(first.c_str(), &size), 0);
-  ASSERT_NE(ImageGetSize(second.c_str(), &size), 0);
-  std::vector<std::uint32_t> pixels(4);
-  EXPECT_NE(ImageLoad(first.c_str(), pixels.data()), 0);
-  EXPECT_EQ(pixels, Gradient(2, 2).pixels);
-}
-
-TEST_F(ImageLibFiles, PictureThatChangedItsSizeIsNotLoaded) {
-  const std::string path = folder_.Path("picture.png");
-  for (const Size now : {Size{9, 9}, Size{1, 1}, Size{3, 2}}) {
-    ASSERT_NE(SavePicture(path, Gradient(2, 3)), 0);
-    ImageSize size{};
-    ASSERT_NE(ImageGetSize(path.c_str(), &size), 0);
-    ASSERT_NE(SavePicture(path, Gradient(now.width, now.height)), 0);
-    std::vector<std::uint32_t> pixels(6, 0x5A);
-    EXPECT_EQ(ImageLoad(path.c_str(), pixels.data()), 0);
-    EXPECT_EQ(pixels, std::vector<std::uint32_t>(6, 0x5A));
+  ASSERT_NE(0, SavePicture(path_, Gradient(2, 3)));
+  ASSERT_NE(0, SavePicture(other, Gradient(9, 9)));
+  EXPECT_EQ(0, ImageLoad(path_.c_str(), pixels.data())) << "before its size was asked for";
+  ASSERT_NE(0, ImageGetSize(path_.c_str(), &size));
+  for (const Size now : {Size{9, 9}, Size{3, 3}, Size{1, 3}, Size{2, 4}, Size{2, 2}}) {
+    ASSERT_NE(0, SavePicture(path_, Gradient(now.width, now.height)));
+    EXPECT_EQ(0, ImageLoad(path_.c_str(), pixels.data())) << now.width << "x" << now.height;
   }
+  ASSERT_NE(0, SavePicture(path_, Gradient(2, 3)));
+  ASSERT_NE(0, ImageGetSize(other.c_str(), &size));
+  EXPECT_EQ(untouched, pixels);
+  EXPECT_NE(0, ImageLoad(path_.c_str(), pixels.data())) << "each path has its own size";
+  WriteContent(path_, "damaged");
+  ASSERT_EQ(0, ImageGetSize(path_.c_str(), &size));
+  ASSERT_NE(0, SavePicture(path_, Gradient(2, 3)));
+  EXPECT_EQ(0, ImageLoad(path_.c_str(), pixels.data())) << "after its size could not be told";
 }
 
-TEST_F(ImageLibFiles, FailedSizeForgetsTheEarlierOne) {
-  const std::string path = folder_.Path("picture.png");
-  ASSERT_NE(SavePicture(path, Gradient(2, 2)), 0);
-  const FileBytes bytes = ReadFileBytes(path);
-  ImageSize size{};
-  ASSERT_NE(ImageGetSize(path.c_str(), &size), 0);
-  fs::remove(path);
-  ASSERT_EQ(ImageGetSize(path.c_str(), &size), 0);
-  WriteFileBytes(path, bytes);
-  std::vector<std::uint32_t> pixels(4);
-  EXPECT_EQ(ImageLoad(path.c_str(), pixels.data()), 0);
-}
-
-TEST_F(ImageLibFiles, SavingWhereNoFileCanBeFails) {
+TEST_F(ImageLibTest, SavingKeepsWhatIsThere) {
+  WriteContent(folder_.Path("~img00.tmp"), "the user's");
+  ASSERT_NE(0, SavePicture(path_, Gradient(3, 3)));
+  EXPECT_EQ("the user's", ReadContent(folder_.Path("~img00.tmp")));
   fs::create_directory(folder_.Path("folder.png"));
-  for (const std::string& path :
-       {folder_.Path("none/x.png"), folder_.Path("folder.png"), folder_.Path(), std::string()}) {
-    EXPECT_EQ(SavePicture(path, Gradient(2, 2)), 0) << path;
+  for (const char* name : {"none/x.png", "folder.png", ""}) {
+    EXPECT_EQ(0, SavePicture(folder_.Path(name), Gradient(2, 2))) << name;
   }
-  EXPECT_TRUE(fs::is_directory(folder_.Path("folder.png")));
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 1) << "something left over";
-}
-
-TEST_F(ImageLibFiles, FailedSaveKeepsTheOldFile) {
-  const std::string path = folder_.Path("picture.png");
-  const Picture old = Gradient(3, 3);
-  ASSERT_NE(SavePicture(path, old), 0);
+  const std::vector<std::uint32_t> pixels(16385);
   for (const Size bad : {Size{0, 3}, Size{3, 0}, Size{-1, 3}, Size{16385, 1}, Size{1, 16385}}) {
-    EXPECT_EQ(ImageSave(path.c_str(), Gradient(100, 100).pixels.data(), bad.width, bad.height), 0);
-    EXPECT_EQ(LoadPicture(path), old);
+    EXPECT_EQ(0, ImageSave(path_.c_str(), pixels.data(), bad.width, bad.height));
   }
-  fs::permissions(path, fs::perms::owner_read);
-  EXPECT_EQ(SavePicture(path, Gradient(5, 5)), 0);
-  EXPECT_EQ(LoadPicture(path), old);
-  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 1) << "something left over";
-}
-
-TEST_F(ImageLibFiles, NullPointersAreRefused) {
-  const std::string path = folder_.Path("picture.png");
-  ASSERT_NE(SavePicture(path, Gradient(1, 1)), 0);
-  ImageSize size{};
-  std::uint32_t pixel = 0;
-  EXPECT_EQ(ImageGetSize(nullptr, &size), 0);
-  EXPECT_EQ(ImageGetSize(path.c_str(), nullptr), 0);
-  EXPECT_EQ(ImageLoad(nullptr, &pixel), 0);
-  EXPECT_EQ(ImageLoad(path.c_str(), nullptr), 0);
-  EXPECT_EQ(ImageSave(nullptr, &pixel, 1, 1), 0);
-  EXPECT_EQ(ImageSave(path.c_str(), nullptr, 1, 1), 0);
+  fs::permissions(path_, fs::perms::owner_read);
+  EXPECT_EQ(0, SavePicture(path_, Gradient(5, 5)));
+  fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(Gradient(3, 3), LoadPicture(path_));
+  EXPECT_EQ(3, std::distance(fs::directory_iterator(folder_.Path()), {})) << "something left over";
 }
 
 // The library counts its users and other tests may be among them: the last one is found by trying.
-TEST_F(ImageLibFiles, WorksUntilTheLastUserLeaves) {
-  const std::string path = folder_.Path("picture.png");
-  ASSERT_NE(SavePicture(path, Gradient(1, 1)), 0);
-  ASSERT_NE(ImageInit(), 0);
+TEST_F(ImageLibTest, WorksUntilTheLastUserLeaves) {
+  ASSERT_NE(0, SavePicture(path_, Gradient(1, 1)));
+  ASSERT_NE(0, ImageInit());
   ImageUnInit();
-  ASSERT_TRUE(LoadPicture(path));
   ImageSize size{};
   int users = 0;
-  while (users < 1000 && ImageGetSize(path.c_str(), &size) != 0) {
-    ImageUnInit();
-    ++users;
-  }
-  std::uint32_t pixel = 0;
+  for (; users < 1000 && ImageGetSize(path_.c_str(), &size) != 0; ++users) ImageUnInit();
+  EXPECT_GE(users, 1);
   EXPECT_LT(users, 1000);
-  EXPECT_EQ(ImageSave(path.c_str(), &pixel, 1, 1), 0);
+  std::uint32_t pixel = 0;
+  EXPECT_EQ(0, ImageSave(path_.c_str(), &pixel, 1, 1));
   ImageUnInit();
-  for (int i = 0; i < users; ++i) ASSERT_NE(ImageInit(), 0);
-  EXPECT_EQ(ImageLoad(path.c_str(), &pixel), 0) << "the size outlived the library's users";
-  EXPECT_TRUE(LoadPicture(path));
+  for (int i = 0; i < users; ++i) ASSERT_NE(0, ImageInit());
+  EXPECT_EQ(0, ImageLoad(path_.c_str(), &pixel)) << "the size outlived the library's users";
+  EXPECT_EQ(Gradient(1, 1), LoadPicture(path_));
 }
 
 TEST(ImageLib, PatternListFitsTheFilterBuffer) {
   const std::string list = ImageOpenFilterStr();
-  EXPECT_LE(list.size(), 109u);
-  for (const char* type : {"png", "bmp", "jpg", "jpeg"}) EXPECT_TRUE(Readable(type)) << type;
-  EXPECT_EQ(list.find(' '), std::string::npos);
-  EXPECT_STRNE(ImageGetDesc(), "");
+  EXPECT_LE(list.size(), 109U);
+  EXPECT_EQ(0U, list.find("*.png;*.bmp;*.jpg;*.jpeg"));
+  EXPECT_EQ(std::string::npos, list.find(' '));
+  EXPECT_STRNE("", ImageGetDesc());
 }
 
 }  // namespace
