@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <string>
 
+#include "files/template_path.h"
 #include "support/file_content.h"
 #include "support/temp_folder.h"
 
@@ -12,146 +12,65 @@ namespace {
 
 class FileClassTest : public testing::Test {
  protected:
-  std::string Make(const std::string& content) {
-    WriteContent(path_, content);
-    return path_;
-  }
-  // What a read of the rest of the file gives.
-  static std::string Rest(FileClass& file, uint32_t count) {
-    std::string text(count, '?');
-    return file.Read(text.data(), count) ? text : "failed";
+  FileClassTest() { WriteContent(path_, "abcdef"); }
+  // The next bytes of the file, or "failed".
+  std::string Read(uint32_t count) {
+    std::string bytes(count, '?');
+    return file_.Read(bytes.data(), count) ? bytes : "failed";
   }
 
   TempFolder folder_;
   std::string path_ = folder_.Path("file.dat");
+  FileClass file_{path_.c_str()};
 };
 
-TEST_F(FileClassTest, WithoutANameNothingOpens) {
-  FileClass file;
-  EXPECT_FALSE(file.Open(0));
-  EXPECT_FALSE(file.Open(1));
-  EXPECT_EQ(INVALID_HANDLE_VALUE, file.GetHandle());
-  EXPECT_STREQ("Not-open", file.GetName());
+TEST_F(FileClassTest, ModeZeroReadsWholeBlocksOfAnExistingFile) {
+  EXPECT_EQ("failed", Read(1)) << "not open";
+  EXPECT_THROW(file_.GetSize(), int);
+  EXPECT_THROW(file_.Seek(0, 0), int);
+  ASSERT_TRUE(file_.Open(0));
+  EXPECT_EQ(path_, file_.GetName());
+  EXPECT_EQ(6U, file_.GetSize());
+  EXPECT_FALSE(FileClass(path_.c_str()).Open(0)) << "nobody else may";
+  EXPECT_EQ("abcd", Read(4));
+  EXPECT_EQ("failed", Read(3)) << "one byte too many";
+  EXPECT_TRUE(file_.Seek(-2, 1) && Read(1) == "e" && file_.Seek(-4, 2) && Read(1) == "b");
+  EXPECT_TRUE(file_.Seek(2, 0) && Read(1) == "c");
+  EXPECT_FALSE(file_.Read(nullptr, 1) || file_.Write("x", 1));
+  file_.SetName(folder_.Path("missing").c_str());
+  EXPECT_EQ("d", Read(1)) << "the open file stays open";
+  EXPECT_FALSE(file_.Open(0));
+  EXPECT_STREQ("Not-open", file_.GetName()) << "but for another Open";
+  EXPECT_EQ(INVALID_HANDLE_VALUE, file_.GetHandle());
 }
 
-TEST_F(FileClassTest, ModeZeroReadsAnExistingFileOnly) {
-  FileClass file(path_.c_str());
-  EXPECT_FALSE(file.Open(0));
-  EXPECT_FALSE(std::filesystem::exists(path_));
-  Make("abcd");
-  ASSERT_TRUE(file.Open(0));
-  EXPECT_NE(INVALID_HANDLE_VALUE, file.GetHandle());
-  EXPECT_EQ(4U, file.GetSize());
-  EXPECT_EQ("abcd", Rest(file, 4));
-  EXPECT_FALSE(file.Write("x", 1));
-}
-
-TEST_F(FileClassTest, ModeOneEmptiesAnExistingFileAndWritesOnly) {
-  FileClass file(Make("abcd").c_str());
-  ASSERT_TRUE(file.Open(1));
-  EXPECT_EQ(0U, file.GetSize());
-  EXPECT_TRUE(file.Write("xyz", 3));
-  char byte = 0;
-  file.Seek(0, 0);
-  EXPECT_FALSE(file.Read(&byte, 1));
-  file.Close();
+TEST_F(FileClassTest, OtherModesEmptyTheFileAndWrite) {
+  for (const int mode : {1, 2}) {
+    ASSERT_TRUE(file_.Open(mode));
+    EXPECT_EQ(0U, file_.GetSize());
+    EXPECT_FALSE(file_.Write("xyz", 0) || file_.Write(nullptr, 1));
+    EXPECT_TRUE(file_.Write("xyz", 3) && file_.Seek(0, 0));
+    EXPECT_EQ(mode == 1 ? "failed" : "xyz", Read(3)) << mode;
+  }
+  EXPECT_TRUE(file_.Close() && file_.Close());
   EXPECT_EQ("xyz", ReadContent(path_));
 }
 
-TEST_F(FileClassTest, OtherModesReadAndWriteAnEmptiedFile) {
-  for (const int mode : {2, -1}) {
-    FileClass file(Make("abcd").c_str());
-    ASSERT_TRUE(file.Open(mode));
-    EXPECT_EQ(0U, file.GetSize());
-    EXPECT_TRUE(file.Write("xyz", 3));
-    file.Seek(0, 0);
-    EXPECT_EQ("xyz", Rest(file, 3));
-  }
-}
-
-TEST_F(FileClassTest, TransfersAreAllOrNothing) {
-  FileClass file(Make("abcd").c_str());
-  char bytes[8] = {};
-  EXPECT_FALSE(file.Read(bytes, 1)) << "not open";
-  EXPECT_FALSE(file.Write(bytes, 1)) << "not open";
-  ASSERT_TRUE(file.Open(0));
-  EXPECT_FALSE(file.Read(bytes, 0));
-  EXPECT_FALSE(file.Read(nullptr, 1));
-  EXPECT_FALSE(file.Read(bytes, 5)) << "one byte too many";
-  EXPECT_FALSE(file.Read(bytes, 1)) << "the short read has moved the position to the end";
-  file.Seek(0, 0);
-  EXPECT_EQ("abcd", Rest(file, 4));
-  ASSERT_TRUE(file.Open(1));
-  EXPECT_FALSE(file.Write(bytes, 0));
-  EXPECT_FALSE(file.Write(nullptr, 1));
-}
-
-struct SeekCase {
-  const char* name;
-  int32_t offset;
-  int origin;
-  std::string next;  // the byte there, after "ab" has been read of "abcdef"
-};
-
-TEST_F(FileClassTest, SeekCountsFromItsOrigin) {
-  for (const SeekCase& seek : {SeekCase{"Beginning", 1, 0, "b"}, SeekCase{"End", -1, 1, "f"},
-                               SeekCase{"AtTheEnd", 0, 1, "failed"}, SeekCase{"Current", 1, 2, "d"},
-                               SeekCase{"Stay", 0, 2, "c"}, SeekCase{"Back", -1, 7, "b"},
-                               SeekCase{"BeforeTheBeginning", -9, 0, "c"}}) {
-    FileClass file(Make("abcdef").c_str());
-    ASSERT_TRUE(file.Open(0));
-    Rest(file, 2);
-    EXPECT_TRUE(file.Seek(seek.offset, seek.origin));
-    EXPECT_EQ(seek.next, Rest(file, 1)) << seek.name;
-  }
-}
-
-TEST_F(FileClassTest, SizeAndSeekOfAClosedFileThrow) {
-  FileClass file(path_.c_str());
-  EXPECT_THROW(file.GetSize(), int);
-  EXPECT_THROW(file.Seek(0, 0), int);
-}
-
-TEST_F(FileClassTest, NameIsShownWhileTheFileIsOpen) {
-  FileClass file(Make("abcd").c_str());
-  EXPECT_STREQ("Not-open", file.GetName());
-  ASSERT_TRUE(file.Open(0));
-  EXPECT_EQ(path_, file.GetName());
-  file.SetName("another");
-  EXPECT_STREQ("another", file.GetName());
-  EXPECT_EQ("abcd", Rest(file, 4)) << "the open file stays open";
-  EXPECT_TRUE(file.Close());
-  EXPECT_TRUE(file.Close());
-  EXPECT_STREQ("Not-open", file.GetName());
-}
-
-TEST_F(FileClassTest, FailedOpenClosesTheFileBefore) {
-  FileClass file(Make("abcd").c_str());
-  ASSERT_TRUE(file.Open(0));
-  file.SetName(folder_.Path("missing").c_str());
-  EXPECT_FALSE(file.Open(0));
-  EXPECT_EQ(INVALID_HANDLE_VALUE, file.GetHandle());
-  EXPECT_STREQ("Not-open", file.GetName());
-}
-
-TEST_F(FileClassTest, OpenFileIsNotShared) {
-  FileClass first(Make("abcd").c_str());
-  FileClass second(path_.c_str());
-  ASSERT_TRUE(first.Open(0));
-  EXPECT_FALSE(second.Open(0));
-  first.Close();
-  EXPECT_TRUE(second.Open(0));
-}
-
 TEST_F(FileClassTest, NameThatDoesNotFitOpensNothing) {
-  // Cut at 259 characters it would name a file that exists.
+  EXPECT_FALSE(FileClass().Open(1));
+  // Cut at 259 characters it would name a file that can be made.
   std::string longName = path_;
   while (longName.size() < 259) longName.insert(longName.size() - 8, "\\.");
   longName.resize(259);
-  FileClass file((longName + "x").c_str());
-  EXPECT_FALSE(file.Open(1));
-  EXPECT_FALSE(file.Open(0));
-  EXPECT_TRUE(std::filesystem::is_empty(folder_.Path()));
+  EXPECT_FALSE(FileClass((longName + "x").c_str()).Open(1));
+  EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.Path()), {}));
+}
+
+TEST(TemplatePathTest, PathThatDoesNotFitIsEmpty) {
+  const std::string longest(MAX_PATH - 1 - 10, 'n');
+  EXPECT_EQ("C:\\x\\Templates\\a.png", TemplatePath("C:\\x\\", "a.png"));
+  EXPECT_EQ("Templates\\" + longest, TemplatePath("", longest));
+  EXPECT_EQ("", TemplatePath("", longest + "n"));
 }
 
 }  // namespace
