@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
+#include "controls/control.h"
+#include "controls/link_control.h"
+#include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 #include "support/file_content.h"
 
@@ -17,112 +18,78 @@ class AboutTest : public EditorFixture {
   void SetUp() override {
     EditorFixture::SetUp();
     doc.animateAboutBox = 0;
-    WriteReadme(kReadme);
-  }
-
-  void WriteReadme(const std::string& text) { WriteContent(File("Templates/readme.txt"), text); }
-  void Open(const std::function<void(HWND)>& step) {
-    user.When(kCaption, step);
-    Command(IDM_ABOUT);
-    EXPECT_EQ(nullptr, doc.aboutTitleFont);
-  }
-  // Where selection or caret stand in the readme.
-  static LRESULT Selection(HWND dialog) {
-    return SendDlgItemMessageA(dialog, IDC_ABOUT_README, EM_GETSEL, 0, 0);
+    WriteContent(File("Templates/readme.txt"), kReadme);
   }
 };
 
-TEST_F(AboutTest, ShowsTitleLinkAndReadme) {
-  Open([](HWND dialog) {
-    EXPECT_EQ("Corvanta 1.1", Text(dialog, IDC_ABOUT_TITLE));
+TEST_F(AboutTest, ShowsTheReadmeAndALargeTitle) {
+  WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
     EXPECT_EQ(reinterpret_cast<LRESULT>(doc.aboutTitleFont.get()),
               SendDlgItemMessageA(dialog, IDC_ABOUT_TITLE, WM_GETFONT, 0, 0));
-    EXPECT_EQ("Visit for the  last updates", Text(dialog, IDC_ABOUT_LINK));
     EXPECT_EQ(kReadme, Text(dialog, IDC_ABOUT_README));
-    Press(dialog, IDCANCEL);
+  });
+  EXPECT_EQ(nullptr, doc.aboutTitleFont);
+  const auto expectEmpty = [](HWND dialog) { EXPECT_EQ("", Text(dialog, IDC_ABOUT_README)); };
+  WriteContent(File("Templates/readme.txt"), "");
+  WithDialog(kCaption, IDM_ABOUT, expectEmpty);
+  std::filesystem::remove(File("Templates/readme.txt"));
+  WithDialog(kCaption, IDM_ABOUT, expectEmpty);
+}
+
+TEST_F(AboutTest, LinkIsBlueAndTakesAddressesOf255Characters) {
+  WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
+    const HWND link = GetDlgItem(dialog, IDC_ABOUT_LINK);
+    const SIZE size = ClientSize(link);
+    bool blue = false;
+    for (int i = 0; i < size.cx * size.cy; ++i) {
+      blue |= WindowPixel(link, i % size.cx, i / size.cx) == 0x0000FF;
+    }
+    EXPECT_TRUE(blue);
+    EXPECT_EQ(FaceColour(), WindowPixel(link, 0, 0));
+    const auto setAddress = [link](const std::string& address) {
+      return SendMessageA(link, LM_SETADDRESS, reinterpret_cast<WPARAM>(address.c_str()), 0);
+    };
+    EXPECT_EQ(1, setAddress(std::string(255, 'a')));
+    EXPECT_EQ(0, setAddress(std::string(256, 'b')));
+    EXPECT_EQ(0, SendMessageA(link, LM_SETADDRESS, 0, 0));
   });
 }
 
-TEST_F(AboutTest, MissingOrEmptyReadmeLeavesTheBoxEmpty) {
-  const auto step = [](HWND dialog) {
-    EXPECT_EQ("", Text(dialog, IDC_ABOUT_README));
-    Press(dialog, IDCANCEL);
-  };
-  WriteReadme("");
-  Open(step);
-  std::filesystem::remove(File("Templates/readme.txt"));
-  Open(step);
-}
-
-TEST_F(AboutTest, ReadmeCannotBeChanged) {
-  Open([](HWND dialog) {
+TEST_F(AboutTest, ReadmeCannotBeChangedOnlyWalkedThrough) {
+  WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
     const HWND readme = GetDlgItem(dialog, IDC_ABOUT_README);
-    SendMessageA(readme, EM_SETSEL, 2, 5);
-    const LRESULT selection = Selection(dialog);
+    SetFocus(readme);
+    // In the middle of the second line; whether a key has moved the caret.
+    const auto moves = [readme](WPARAM key) {
+      SendMessageA(readme, EM_SETSEL, 14, 15);
+      SendMessageA(readme, WM_KEYDOWN, key, 1);
+      return SendMessageA(readme, EM_GETSEL, 0, 0) != MAKELONG(14, 15);
+    };
+    for (const int key : {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN}) {
+      EXPECT_TRUE(moves(static_cast<WPARAM>(key))) << key;
+    }
+    for (const int key : {VK_DELETE, VK_BACK, VK_PRIOR, VK_HOME, VK_END, VK_NEXT, VK_INSERT}) {
+      EXPECT_FALSE(moves(static_cast<WPARAM>(key))) << key;
+    }
     for (const WPARAM letter : {120, 8, 3, 22, 24, 13}) SendMessageA(readme, WM_CHAR, letter, 1);
     for (const UINT message : {WM_CUT, WM_PASTE, WM_CLEAR, WM_RBUTTONDOWN, WM_RBUTTONUP}) {
       SendMessageA(readme, message, 0, 0);
     }
-    for (const WPARAM key : {VK_DELETE, VK_BACK, VK_PRIOR, VK_HOME, VK_END, VK_NEXT, VK_INSERT}) {
-      SendMessageA(readme, WM_KEYDOWN, key, 1);
-    }
     EXPECT_EQ(kReadme, Text(dialog, IDC_ABOUT_README));
-    EXPECT_EQ(selection, Selection(dialog));
-    Press(dialog, IDCANCEL);
   });
 }
 
-TEST_F(AboutTest, ArrowKeysMoveTheCaret) {
-  Open([](HWND dialog) {
+TEST_F(AboutTest, TabAndEscapeLeaveTheReadmeAndEnterDoesNot) {
+  doc.animateAboutBox = 1;  // fading changes none of it
+  WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
     const HWND readme = GetDlgItem(dialog, IDC_ABOUT_README);
     SetFocus(readme);
-    SendMessageA(readme, EM_SETSEL, 2, 2);
-    const auto press = [readme](WPARAM key) { SendMessageA(readme, WM_KEYDOWN, key, 1); };
-    press(VK_RIGHT);
-    EXPECT_EQ(MAKELONG(3, 3), Selection(dialog));
-    press(VK_LEFT);
-    press(VK_LEFT);
-    EXPECT_EQ(MAKELONG(1, 1), Selection(dialog));
-    // The column in another line depends on the font.
-    const auto line = [dialog] {
-      return std::count(kReadme, kReadme + LOWORD(Selection(dialog)), '\n');
-    };
-    press(VK_DOWN);
-    EXPECT_EQ(1, line());
-    press(VK_UP);
-    EXPECT_EQ(0, line());
-    Press(dialog, IDCANCEL);
-  });
-}
-
-TEST_F(AboutTest, EscapeClosesTheBoxFromEveryControlAndEnterDoesNot) {
-  for (const int id : {IDC_ABOUT_LINK, IDC_ABOUT_README, IDCANCEL}) {
-    Open([id](HWND dialog) {
-      const HWND control = GetDlgItem(dialog, id);
-      SetFocus(control);
-      if (id != IDCANCEL) PressKey(control, VK_RETURN);
-      EXPECT_TRUE(IsWindowVisible(dialog));
-      PressKey(control, VK_ESCAPE);
-    });
-  }
-}
-
-TEST_F(AboutTest, TabLeavesTheReadme) {
-  Open([](HWND dialog) {
-    const HWND readme = GetDlgItem(dialog, IDC_ABOUT_README);
-    SetFocus(readme);
+    PressKey(readme, VK_RETURN);
+    EXPECT_TRUE(IsWindowVisible(dialog));
     PressKey(readme, VK_TAB);
     EXPECT_EQ(GetDlgItem(dialog, IDCANCEL), GetFocus());
-    Press(dialog, IDCANCEL);
-  });
-}
-
-TEST_F(AboutTest, FadingBoxOpensAndClosesToo) {
-  doc.animateAboutBox = 1;
-  Open([](HWND dialog) {
-    EXPECT_TRUE(IsWindowVisible(dialog));
-    EXPECT_FALSE(IsWindowEnabled(doc.mainWindow));
-    Press(dialog, IDCANCEL);
+    PressKey(readme, VK_ESCAPE);
+    EXPECT_FALSE(IsWindowVisible(dialog));
   });
   EXPECT_TRUE(IsWindowEnabled(doc.mainWindow));
 }

@@ -4,18 +4,14 @@
 
 #include <cstring>
 
-#include "support/case_name.h"
 #include "support/editor_fixture.h"
 
 namespace {
 
-constexpr char kCaption[] = "Load screen settings";
-constexpr char kOpenCaption[] = "Choose file to open";
+constexpr char kSettings[] = "Load screen settings";
 constexpr char kQuestion[] = "Size of image isn't 234x232.Do you want to crop this image?";
 constexpr char kTooSmall[] =
     "Error: Size of image is less than 234x232\nPlease select another image.";
-constexpr int kScreenshotX = 542;
-constexpr int kScreenshotY = 267;
 
 uint32_t ShotPixel(int32_t x, int32_t y) {
   return static_cast<uint32_t>(x) + (static_cast<uint32_t>(y) << 12);
@@ -27,99 +23,73 @@ class ChooseScreenshotTest : public EditorFixture {
     EditorFixture::SetUp();
     WriteSettings("[CameosList]\n");
     SetLayers(0, 1);  // the frame would cover part of the screenshot
-    // What must stay, or be replaced.
-    doc.screenshot = PlainPicture(234, 232, 0x555555);
-    std::strcpy(doc.screenshotPath, "before.png");
   }
 
-  std::string WriteShot(int32_t width, int32_t height) {
-    return WritePng("shot.png", MakePicture(width, height, ShotPixel));
-  }
-
-  // Opens the dialog and chooses the file; further steps may follow before Finish.
-  void Choose(const std::string& path) {
-    user.When(kCaption, [](HWND dialog) { Press(dialog, IDC_SETTINGS_BROWSE); });
-    user.ChooseFile(kOpenCaption, path);
-  }
-
-  // Closes the dialog; gives the path that it showed.
-  std::string Finish() {
-    std::string path;
-    user.When(kCaption, [&path](HWND dialog) {
-      path = Text(dialog, IDC_SETTINGS_PATH);
-      Press(dialog, IDCANCEL);
+  // Says yes to the question and does the step in "Crop image".
+  void Crop(const std::function<void(HWND)>& step) {
+    user.Answer("Corvanta", kQuestion, MB_ICONQUESTION, IDYES);
+    user.When("Crop image", [this, step](HWND crop) {
+      EXPECT_FALSE(IsWindowEnabled(FindWindowA(nullptr, kSettings)));
+      EXPECT_EQ(AppPath("shot.png"), Text(crop, IDC_CROP_PATH));
+      EXPECT_EQ(0, doc.screenshot.valid);
+      step(crop);
     });
-    Command(IDM_LOAD_SCREEN_SETTINGS);
-    return path;
-  }
-
-  void ExpectNothingChanged(const std::string& shownPath) {
-    EXPECT_EQ("before.png", shownPath);
-    EXPECT_STREQ("before.png", doc.screenshotPath);
-    EXPECT_EQ(0x555555U, doc.screenshot.ReadPixel(0, 0));
   }
 };
 
-TEST_F(ChooseScreenshotTest, PictureOfTheRightSizeIsTakenAsItIs) {
-  const std::string path = WriteShot(234, 232);
-  Choose(path);
-  EXPECT_EQ(path, Finish());
-  EXPECT_EQ(path, doc.screenshotPath);
-  EXPECT_EQ(path, doc.lastFilePath);
-  // The left and upper part lies under the large frame.
-  EXPECT_EQ(ShotPixel(100, 0), CanvasPixel(kScreenshotX + 100, kScreenshotY));
-  EXPECT_EQ(ShotPixel(233, 231), CanvasPixel(kScreenshotX + 233, kScreenshotY + 231));
-}
-
-TEST_F(ChooseScreenshotTest, SmallerPicturesAreRefused) {
-  for (const PictureSize size : {PictureSize{234, 231}, {233, 232}, {300, 200}, {200, 300}}) {
-    Choose(WriteShot(size.width, size.height));
-    user.Answer("Corvanta", kTooSmall, MB_ICONHAND, IDOK);
-    ExpectNothingChanged(Finish());
+TEST_F(ChooseScreenshotTest, SizeDecidesWhetherThePictureIsTakenCroppedOrRefused) {
+  constexpr uint32_t kFormer = 0x555555;
+  const auto refuse = [this] { user.Answer("Corvanta", kTooSmall, MB_ICONHAND, IDOK); };
+  const auto leave = [this] { user.Answer("Corvanta", kQuestion, MB_ICONQUESTION, IDNO); };
+  const auto crop = [this] {
+    Crop([](HWND dialog) {
+      Type(dialog, IDC_CROP_X, "10");
+      Type(dialog, IDC_CROP_Y, "20");
+      Press(dialog, IDOK);
+    });
+  };
+  const auto giveUp = [this] { Crop([](HWND dialog) { Press(dialog, IDCANCEL); }); };
+  const struct {
+    const char* name;
+    PictureSize size;
+    std::function<void()> answer;
+    bool taken;
+    uint32_t first, last;  // what the view shows of the screenshot then
+  } shots[] = {
+      {"one row short", {234, 231}, refuse, false, kFormer, kFormer},
+      {"one column short", {233, 232}, refuse, false, kFormer, kFormer},
+      {"too low", {300, 200}, refuse, false, kFormer, kFormer},
+      {"too narrow", {200, 300}, refuse, false, kFormer, kFormer},
+      {"left alone", {300, 232}, leave, false, kFormer, kFormer},
+      {"exact", {234, 232}, [] {}, true, ShotPixel(0, 0), ShotPixel(233, 231)},
+      {"cropped", {300, 280}, crop, true, ShotPixel(10, 20), ShotPixel(243, 251)},
+      {"given up",
+       {234, 233},
+       giveUp,
+       true,
+       WorldMapPixel(0, 542, 267),
+       WorldMapPixel(0, 775, 498)},
+  };
+  for (const auto& shot : shots) {
+    SCOPED_TRACE(shot.name);
+    WritePng("shot.png", MakePicture(shot.size.width, shot.size.height, ShotPixel));
+    doc.screenshot = PlainPicture(234, 232, kFormer);
+    std::strcpy(doc.screenshotPath, "before.png");
+    SetLayers(0, 1);
+    WithDialog(kSettings, IDM_LOAD_SCREEN_SETTINGS, [&](HWND dialog) {
+      user.ChooseFile("Choose file to open", AppPath("shot.png"));
+      shot.answer();
+      Press(dialog, IDC_SETTINGS_BROWSE);
+      const std::string path = shot.taken ? AppPath("shot.png") : "before.png";
+      EXPECT_EQ(path, Text(dialog, IDC_SETTINGS_PATH));
+      EXPECT_EQ(path, doc.screenshotPath);
+      EXPECT_EQ(shot.first, CanvasPixel(542, 267)) << "shown at once";
+      EXPECT_EQ(shot.last, CanvasPixel(775, 498));
+      EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_BROWSE), GetFocus());
+    });
+    EXPECT_EQ(AppPath("shot.png"), doc.lastFilePath);
+    EXPECT_TRUE(IsWindowEnabled(doc.mainWindow));
   }
-}
-
-TEST_F(ChooseScreenshotTest, LargerPictureIsLeftAloneOnNo) {
-  Choose(WriteShot(300, 232));
-  user.Answer("Corvanta", kQuestion, MB_ICONQUESTION, IDNO);
-  ExpectNothingChanged(Finish());
-}
-
-TEST_F(ChooseScreenshotTest, LargerPictureIsCropped) {
-  const std::string path = WriteShot(300, 280);
-  Choose(path);
-  user.Answer("Corvanta", kQuestion, MB_ICONQUESTION, IDYES);
-  user.When("Crop image", [&path](HWND dialog) {
-    EXPECT_FALSE(IsWindowEnabled(FindWindowA(nullptr, kCaption)));
-    EXPECT_EQ(path, Text(dialog, IDC_CROP_PATH));
-    EXPECT_EQ(0, doc.screenshot.valid);
-    Type(dialog, IDC_CROP_X, "10");
-    Type(dialog, IDC_CROP_Y, "20");
-    Press(dialog, IDOK);
-  });
-  EXPECT_EQ(path, Finish());
-  EXPECT_EQ(path, doc.screenshotPath);
-  EXPECT_EQ(234, doc.screenshot.width);
-  EXPECT_EQ(232, doc.screenshot.height);
-  EXPECT_EQ(ShotPixel(110, 20), CanvasPixel(kScreenshotX + 100, kScreenshotY));
-  EXPECT_EQ(ShotPixel(243, 251), CanvasPixel(kScreenshotX + 233, kScreenshotY + 231));
-  EXPECT_TRUE(IsWindowEnabled(doc.mainWindow));
-}
-
-TEST_F(ChooseScreenshotTest, GivingUpCroppingLeavesNoScreenshot) {
-  const std::string path = WriteShot(234, 233);
-  Choose(path);
-  user.Answer("Corvanta", kQuestion, MB_ICONQUESTION, IDYES);
-  user.When("Crop image", [](HWND dialog) { Press(dialog, IDCANCEL); });
-  EXPECT_EQ(path, Finish());
-  EXPECT_EQ(0, doc.screenshot.valid);
-  EXPECT_NE(0x555555U, CanvasPixel(kScreenshotX, kScreenshotY)) << "the view shows that at once";
-}
-
-TEST_F(ChooseScreenshotTest, CancellingTheChoiceChangesNothing) {
-  user.When(kCaption, [](HWND dialog) { Press(dialog, IDC_SETTINGS_BROWSE); });
-  user.When(kOpenCaption, [](HWND dialog) { Press(dialog, IDCANCEL); });
-  ExpectNothingChanged(Finish());
 }
 
 }  // namespace

@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "controls/control.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 
 namespace {
-
-constexpr char kCaption[] = "Crop image";
-constexpr SIZE kCropSize = {234, 232};
 
 uint32_t SourcePixel(int32_t x, int32_t y) {
   return static_cast<uint32_t>(x) + (static_cast<uint32_t>(y) << 12);
@@ -17,123 +16,95 @@ uint32_t SourcePixel(int32_t x, int32_t y) {
 
 class CropImageTest : public EditorFixture {
  protected:
-  // Crops a picture of that size while the user does the step; the result of CropImage.
-  int Crop(int32_t width, int32_t height, const std::function<void(HWND)>& step) {
-    user.When(kCaption, step);
-    return CropImage(result, MakePicture(width, height, SourcePixel), "a.png", kCropSize);
+  // Crops a picture while the user does the step; the result of CropImage.
+  int Crop(const BitmapClass& picture, const std::function<void(HWND)>& step) {
+    int result = -1;
+    cropped.Free();
+    WithDialog(
+        "Crop image",
+        [&] {
+          result = CropImage(cropped, picture, "a.png", {234, 232});
+        },
+        step);
+    return result;
   }
-  // The pixel of the picture that the result starts with.
-  void ExpectCroppedAt(int32_t x, int32_t y) {
-    EXPECT_EQ(234, result.width);
-    EXPECT_EQ(232, result.height);
-    EXPECT_EQ(SourcePixel(x, y), result.ReadPixel(0, 0));
-    EXPECT_EQ(SourcePixel(x + 233, y + 231), result.ReadPixel(233, 231));
-  }
-  // Gives the preview a size of its own.
-  static HWND SizePreview(HWND dialog, int width, int height) {
-    const HWND preview = GetDlgItem(dialog, IDC_CROP_PREVIEW);
-    MoveWindow(preview, 0, 0, width, height, TRUE);
-    return preview;
+  // Where the cropped part was in the picture.
+  std::pair<uint32_t, uint32_t> CroppedAt() const {
+    const uint32_t first = cropped.ReadPixel(0, 0), x = first & 0xFFF, y = first >> 12;
+    EXPECT_EQ(std::pair(234, 232), std::pair(cropped.width, cropped.height));
+    EXPECT_EQ(SourcePixel(static_cast<int32_t>(x) + 233, static_cast<int32_t>(y) + 231),
+              cropped.ReadPixel(233, 231));
+    return {x, y};
   }
 
-  ImageClass result;
+  ImageClass cropped;
 };
 
-TEST_F(CropImageTest, OpensInTheCorner) {
+using At = std::pair<uint32_t, uint32_t>;
+
+TEST_F(CropImageTest, OpensInTheCornerEachTime) {
+  const ImageClass picture = MakePicture(300, 280, SourcePixel);
   for (int opening = 0; opening < 2; ++opening) {
-    const int cropped = Crop(300, 280, [](HWND dialog) {
+    const int result = Crop(picture, [](HWND dialog) {
       EXPECT_EQ("a.png", Text(dialog, IDC_CROP_PATH));
-      EXPECT_EQ("0", Text(dialog, IDC_CROP_X));
-      EXPECT_EQ("0", Text(dialog, IDC_CROP_Y));
+      for (const int id : {IDC_CROP_X, IDC_CROP_Y}) EXPECT_EQ("0", Text(dialog, id));
       EXPECT_EQ("234", Text(dialog, IDC_CROP_WIDTH));
       EXPECT_EQ("232", Text(dialog, IDC_CROP_HEIGHT));
       Type(dialog, IDC_CROP_X, "30");
-      Press(dialog, IDOK);
+      PressKey(GetFocus(), VK_RETURN);
     });
-    EXPECT_EQ(1, cropped);
-    ExpectCroppedAt(30, 0);
-    EXPECT_EQ(0, doc.cropPreview.valid);
-    result.Free();
-  }
-}
-
-TEST_F(CropImageTest, CancelLeavesTheDestinationEmpty) {
-  for (const UINT message : {WM_COMMAND, WM_CLOSE}) {
-    EXPECT_EQ(0, Crop(300, 280, [message](HWND dialog) {
-                SendMessageA(dialog, message, message == WM_COMMAND ? IDCANCEL : 0, 0);
-              }));
-    EXPECT_EQ(0, result.valid);
+    EXPECT_EQ(1, result);
+    EXPECT_EQ(At(30, 0), CroppedAt());
     EXPECT_EQ(0, doc.cropPreview.valid);
   }
-}
-
-TEST_F(CropImageTest, EscapeCancelsAndEnterAccepts) {
-  EXPECT_EQ(
-      0, Crop(300, 280, [](HWND dialog) { PressKey(GetDlgItem(dialog, IDC_CROP_X), VK_ESCAPE); }));
-  EXPECT_EQ(1, Crop(300, 280, [](HWND dialog) {
-              Type(dialog, IDC_CROP_Y, "48");
-              PressKey(GetDlgItem(dialog, IDC_CROP_Y), VK_RETURN);
-            }));
-  ExpectCroppedAt(0, 48);
+  EXPECT_EQ(0, CropImage(cropped, ImageClass(), "", {234, 232})) << "nothing to crop";
 }
 
 TEST_F(CropImageTest, TypedPositionsAreLimitedButStayInTheirField) {
-  Crop(1920, 1080, [](HWND dialog) {
-    Type(dialog, IDC_CROP_X, "5000");
-    Type(dialog, IDC_CROP_Y, "4294967295");
-    EXPECT_EQ("5000", Text(dialog, IDC_CROP_X));
-    EXPECT_EQ("4294967295", Text(dialog, IDC_CROP_Y));
-    Press(dialog, IDOK);
-  });
-  ExpectCroppedAt(1920 - 234, 0);
-}
-
-TEST_F(CropImageTest, EmptyFieldCountsAsZero) {
-  Crop(300, 280, [](HWND dialog) {
-    Type(dialog, IDC_CROP_X, "40");
-    Type(dialog, IDC_CROP_Y, "40");
-    Type(dialog, IDC_CROP_X, "");
-    Press(dialog, IDOK);
-  });
-  ExpectCroppedAt(0, 40);
+  const ImageClass picture = MakePicture(1000, 600, SourcePixel);
+  const struct {
+    const char *x, *y;
+    At cropped;
+  } cases[] = {{"40", "30", {40, 30}},        {"766", "368", {766, 368}},
+               {"767", "369", {766, 368}},    {"5000", "700", {766, 368}},
+               {"4294967295", "", {0, 0}},    {"", "4294967295", {0, 0}},
+               {"30", "99999999999", {30, 0}}};
+  for (const auto& test : cases) {
+    Crop(picture, [&test](HWND dialog) {
+      for (const auto& [id, text] : {std::pair(IDC_CROP_X, test.x), {IDC_CROP_Y, test.y}}) {
+        Type(dialog, id, "12");
+        Type(dialog, id, text);
+        EXPECT_EQ(text, Text(dialog, id));
+      }
+      Press(dialog, IDOK);
+    });
+    EXPECT_EQ(test.cropped, CroppedAt()) << test.x << ", " << test.y;
+  }
 }
 
 TEST_F(CropImageTest, ArrowsMoveTheRectangleWithinThePicture) {
-  Crop(300, 232, [](HWND dialog) {
-    EXPECT_EQ(MAKELONG(66, 0), SendDlgItemMessageA(dialog, IDC_CROP_X_ARROWS, UDM_GETRANGE, 0, 0));
-    EXPECT_EQ(MAKELONG(0, 0), SendDlgItemMessageA(dialog, IDC_CROP_Y_ARROWS, UDM_GETRANGE, 0, 0));
-    Type(dialog, IDC_CROP_X, "64");
-    for (int i = 0; i < 5; ++i) PressKey(GetDlgItem(dialog, IDC_CROP_X), VK_UP);
-    EXPECT_EQ("66", Text(dialog, IDC_CROP_X));
-    PressKey(GetDlgItem(dialog, IDC_CROP_X), VK_DOWN);
+  Crop(MakePicture(1800, 300, SourcePixel), [](HWND dialog) {
+    const auto arrow = [dialog](int id, const std::string& from, int key) {
+      Type(dialog, id, from);
+      PressKey(GetFocus(), key);
+      return Text(dialog, id);
+    };
+    EXPECT_EQ("1500", arrow(IDC_CROP_X, "1499", VK_UP));
+    EXPECT_EQ("1566", arrow(IDC_CROP_X, "1566", VK_UP));
+    EXPECT_EQ("0", arrow(IDC_CROP_X, "0", VK_DOWN));
+    EXPECT_EQ("68", arrow(IDC_CROP_Y, "68", VK_UP));
+    EXPECT_EQ("67", arrow(IDC_CROP_Y, "68", VK_DOWN));
     Press(dialog, IDOK);
   });
-  ExpectCroppedAt(65, 0);
+  EXPECT_EQ(At(0, 67), CroppedAt());
 }
 
-TEST_F(CropImageTest, ArrowsWriteThousandsWithoutSeparator) {
-  Crop(1920, 1080, [](HWND dialog) {
-    Type(dialog, IDC_CROP_X, "1499");
-    PressKey(GetDlgItem(dialog, IDC_CROP_X), VK_UP);
-    EXPECT_EQ("1500", Text(dialog, IDC_CROP_X));
-    Press(dialog, IDOK);
-  });
-  ExpectCroppedAt(1500, 0);
-}
-
-TEST_F(CropImageTest, ClickCentresTheRectangle) {
-  Crop(1024, 768, [](HWND dialog) {
-    Click(SizePreview(dialog, 512, 384), 256, 192);
-    EXPECT_EQ("395", Text(dialog, IDC_CROP_X));
-    EXPECT_EQ("268", Text(dialog, IDC_CROP_Y));
-    Press(dialog, IDOK);
-  });
-  ExpectCroppedAt(395, 268);
-}
-
-TEST_F(CropImageTest, PreviewDimsAllButTheOutlinedRectangle) {
-  user.When(kCaption, [](HWND dialog) {
-    const HWND preview = SizePreview(dialog, 300, 280);
+TEST_F(CropImageTest, PreviewOutlinesTheRectangleThatAClickCentres) {
+  Crop(PlainPicture(300, 280, 0x808080), [](HWND dialog) {
+    const HWND preview = GetDlgItem(dialog, IDC_CROP_PREVIEW);
+    MoveWindow(dialog, 0, 0, 800, 600, TRUE);
+    MoveWindow(preview, 0, 0, 600, 280, TRUE);  // two columns for each of the picture
+    UpdateWindow(preview);
     Type(dialog, IDC_CROP_X, "20");
     Type(dialog, IDC_CROP_Y, "10");
     const struct {
@@ -144,63 +115,36 @@ TEST_F(CropImageTest, PreviewDimsAllButTheOutlinedRectangle) {
                   {252, 240, 0x808080}, {254, 100, 0x404040}, {100, 242, 0x404040},
                   {100, 9, 0x404040},   {299, 279, 0x404040}};
     for (const auto& point : points) {
-      EXPECT_EQ(point.colour, WindowPixel(preview, point.x, point.y)) << point.x << "," << point.y;
+      EXPECT_EQ(point.colour, WindowPixel(preview, 2 * point.x + 1, point.y))
+          << point.x << ", " << point.y;
     }
-    Click(preview, 0, 0);
-    EXPECT_EQ(0xFFFFFFU, WindowPixel(preview, 0, 0)) << "the click shows at once";
-    EXPECT_EQ(0x404040U, WindowPixel(preview, 253, 241));
-    Press(dialog, IDCANCEL);
+    Click(preview, 300, 130);
+    EXPECT_EQ(0xFFFFFFU, WindowPixel(preview, 67, 14)) << "the click shows at once";
+    EXPECT_EQ(0x404040U, WindowPixel(preview, 41, 10)) << "where the rectangle was";
+    EXPECT_EQ("33", Text(dialog, IDC_CROP_X));
+    EXPECT_EQ("14", Text(dialog, IDC_CROP_Y));
   });
-  CropImage(result, PlainPicture(300, 280, 0x808080), "", kCropSize);
 }
 
-TEST_F(CropImageTest, LayoutFollowsTheSize) {
-  Crop(300, 280, [](HWND dialog) {
-    for (const SIZE outer : {SIZE{700, 600}, SIZE{440, 334}, SIZE{1000, 500}}) {
-      SetWindowPos(dialog, nullptr, 0, 0, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOMOVE);
-      const SIZE client = ClientSize(dialog);
-      const SIZE preview = ClientSize(GetDlgItem(dialog, IDC_CROP_PREVIEW));
-      RECT path{};
-      GetWindowRect(GetDlgItem(dialog, IDC_CROP_PATH), &path);
-      EXPECT_EQ(client.cx - 24, preview.cx);
-      EXPECT_EQ(client.cy - 172, preview.cy);
-      EXPECT_GT(preview.cy, 0);
-      EXPECT_EQ(client.cx - 24, path.right - path.left);
-      EXPECT_EQ(23, path.bottom - path.top);
-      const int expected[][3] = {{IDOK, 87, -33},
-                                 {IDCANCEL, 169, -33},
-                                 {IDC_CROP_GROUP, 12, -102},
-                                 {IDC_CROP_X, 33, -80},
-                                 {IDC_CROP_X_ARROWS, 93, -80},
-                                 {IDC_CROP_Y, 131, -80},
-                                 {IDC_CROP_Y_ARROWS, 192, -80},
-                                 {IDC_CROP_WIDTH, 229, -80},
-                                 {IDC_CROP_HEIGHT, 327, -80}};
-      for (const auto& place : expected) {
-        RECT control{};
-        GetWindowRect(GetDlgItem(dialog, place[0]), &control);
-        // The path stands at (12, 30) of the client area.
-        EXPECT_EQ(place[1] - 12, control.left - path.left) << place[0];
-        EXPECT_EQ(client.cy + place[2] - 30, control.top - path.top) << place[0];
-      }
+TEST_F(CropImageTest, PreviewTakesWhatTheFieldsAndButtonsLeave) {
+  Crop(PlainPicture(300, 280, 1), [](HWND dialog) {
+    const auto edges = [dialog](int id) {
+      RECT rect{};
+      GetWindowRect(id ? GetDlgItem(dialog, id) : dialog, &rect);
+      return rect;
+    };
+    std::set<LONG> below;
+    for (const SIZE size : {SIZE{700, 600}, SIZE{100, 100}, SIZE{1000, 500}}) {
+      SetWindowPos(dialog, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
+      const RECT preview = edges(IDC_CROP_PREVIEW), field = edges(IDC_CROP_Y), ok = edges(IDOK);
+      below.insert(edges(0).bottom - preview.bottom);
+      EXPECT_LT(preview.top, preview.bottom) << "no dialog is too small for it";
+      EXPECT_LT(preview.bottom, field.top);
+      EXPECT_LT(field.bottom, ok.top);
+      EXPECT_LT(ok.bottom, edges(0).bottom);
     }
-    Press(dialog, IDCANCEL);
+    EXPECT_EQ(1U, below.size()) << "all grows with the dialog";
   });
-}
-
-TEST_F(CropImageTest, DialogHasASmallestSize) {
-  Crop(300, 280, [](HWND dialog) {
-    MINMAXINFO limits{};
-    SendMessageA(dialog, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-    EXPECT_EQ(440, limits.ptMinTrackSize.x);
-    EXPECT_EQ(334, limits.ptMinTrackSize.y);
-    Press(dialog, IDCANCEL);
-  });
-}
-
-TEST_F(CropImageTest, EmptySourceIsLikeACancel) {
-  EXPECT_EQ(0, CropImage(result, ImageClass(), "", kCropSize));
-  EXPECT_EQ(0, result.valid);
 }
 
 }  // namespace

@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "support/editor_fixture.h"
 
 namespace {
 
 constexpr char kCaption[] = "Load screen settings";
-constexpr int kLists[] = {IDC_SETTINGS_ICON1, IDC_SETTINGS_ICON2, IDC_SETTINGS_ICON3};
-constexpr char kWrongSize[] = "Error: This file isn't valid icon file\nImage size must be 76x60";
 using Lines = std::vector<std::string>;
 
 class LoadScreenSettingsTest : public EditorFixture {
@@ -24,74 +24,61 @@ class LoadScreenSettingsTest : public EditorFixture {
         "4=Wide,wide.png\n5=High,high.png\n6=Lost,lost.png\n");
   }
 
-  // Opens the dialog, plays the step and closes it.
-  void Open(const std::function<void(HWND)>& step) {
-    user.When(kCaption, [step](HWND dialog) {
-      step(dialog);
-      Press(dialog, IDCANCEL);
-    });
-    Command(IDM_LOAD_SCREEN_SETTINGS);
-  }
-
-  // Positions in the sorted lists: Apple, High, Lost, Wide, Zebra.
-  enum { kApple, kHigh, kLost, kWide, kZebra };
+  // Positions in the sorted lists.
+  enum { kApple, kHigh, kLost, kWide, kZebra, kPastTheEnd };
 };
 
 TEST_F(LoadScreenSettingsTest, OpensWithTheDocumentsChoices) {
   SetSide(Yuri);
   SetIconCount(3);
+  doc.iconChoice[0] = kPastTheEnd;
   doc.iconChoice[1] = kZebra;
-  const char path[] = "C:\\pics\\shot.png";
-  std::copy_n(path, sizeof path, doc.screenshotPath);
-  Open([&path](HWND dialog) {
-    for (const int list : kLists) {
+  std::strcpy(doc.screenshotPath, "C:\\pics\\shot.png");
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [](HWND dialog) {
+    for (const int list : {IDC_SETTINGS_ICON1, IDC_SETTINGS_ICON2, IDC_SETTINGS_ICON3}) {
       EXPECT_EQ(Lines({"Apple", "High", "Lost", "Wide", "Zebra"}), Items(dialog, list));
-      EXPECT_EQ(list == IDC_SETTINGS_ICON2 ? 4 : -1, Selected(dialog, list));
+      EXPECT_EQ(list == IDC_SETTINGS_ICON2 ? kZebra : -1, Selected(dialog, list));
       EXPECT_TRUE(IsEnabled(dialog, list));
     }
-    EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_YURI));
-    EXPECT_FALSE(IsChecked(dialog, IDC_SETTINGS_ALLIED));
-    EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_THREE));
-    EXPECT_FALSE(IsChecked(dialog, IDC_SETTINGS_TWO));
+    for (int id = IDC_SETTINGS_TWO; id <= IDC_SETTINGS_YURI; ++id) {
+      EXPECT_EQ(id == IDC_SETTINGS_THREE || id == IDC_SETTINGS_YURI, IsChecked(dialog, id)) << id;
+    }
     EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_THREE), GetFocus());
-    EXPECT_EQ(path, Text(dialog, IDC_SETTINGS_PATH));
+    EXPECT_EQ("C:\\pics\\shot.png", Text(dialog, IDC_SETTINGS_PATH));
+    PressKey(GetFocus(), VK_RETURN);
+    EXPECT_TRUE(IsWindowVisible(dialog)) << "Enter does nothing";
   });
-  EXPECT_EQ(Yuri, doc.side) << "opening and closing changes nothing";
-  EXPECT_EQ(3, doc.iconCount);
+  EXPECT_EQ("Yuri - 3", StatusText(0)) << "opening and closing changes nothing";
 }
 
-TEST_F(LoadScreenSettingsTest, SideTakesEffectAtOnce) {
-  Open([this](HWND dialog) {
-    for (const int32_t side : {Yuri, Soviet, Allied}) {
-      Press(dialog, IDC_SETTINGS_ALLIED + side);
-      EXPECT_EQ(side, doc.side);
-      EXPECT_EQ(std::string(SideName(side)) + " - 2", StatusText(0));
-      EXPECT_EQ(WorldMapPixel(side, 5, 7), CanvasPixel(5, 7));
+TEST_F(LoadScreenSettingsTest, ArrowKeysChooseSideAndIconCountAtOnce) {
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {
+    const struct {
+      int from, key;
+      const char* status;
+      Side side;
+    } steps[] = {{IDC_SETTINGS_ALLIED, VK_UP, "Yuri - 2", Yuri},
+                 {IDC_SETTINGS_TWO, VK_UP, "Yuri - 3", Yuri},
+                 {IDC_SETTINGS_YURI, VK_DOWN, "Allied - 3", Allied},
+                 {IDC_SETTINGS_ALLIED, VK_DOWN, "Soviet - 3", Soviet},
+                 {IDC_SETTINGS_THREE, VK_DOWN, "Soviet - 2", Soviet}};
+    for (const auto& step : steps) {
+      SetFocus(GetDlgItem(dialog, step.from));
+      PressKey(GetFocus(), step.key);
+      EXPECT_EQ(step.status, StatusText(0));
+      EXPECT_EQ(WorldMapPixel(step.side, 5, 7), CanvasPixel(5, 7)) << step.status;
     }
   });
 }
 
-TEST_F(LoadScreenSettingsTest, ArrowKeysStayAmongTheRadioButtons) {
-  SetSide(Yuri);
-  SetIconCount(3);
-  Open([](HWND dialog) {
-    for (const int first : {IDC_SETTINGS_TWO, IDC_SETTINGS_ALLIED}) {
-      const int last = first == IDC_SETTINGS_TWO ? IDC_SETTINGS_THREE : IDC_SETTINGS_YURI;
-      SetFocus(GetDlgItem(dialog, last));
-      PressKey(GetFocus(), VK_DOWN);
-      EXPECT_EQ(GetDlgItem(dialog, first), GetFocus());
-      PressKey(GetFocus(), VK_UP);
-      EXPECT_EQ(GetDlgItem(dialog, last), GetFocus());
-    }
-  });
-}
-
-TEST_F(LoadScreenSettingsTest, IconCountEnablesTheThirdList) {
-  Open([this](HWND dialog) {
+TEST_F(LoadScreenSettingsTest, ChosenIconsAreShownAndRemembered) {
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {
     EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_TWO));
     EXPECT_FALSE(IsEnabled(dialog, IDC_SETTINGS_ICON3));
+    Choose(dialog, IDC_SETTINGS_ICON2, kZebra);
+    EXPECT_EQ(0x111111U, CanvasPixel(405, 380));
+    EXPECT_EQ(0x111111U, CanvasPixel(480, 439));
     Press(dialog, IDC_SETTINGS_THREE);
-    EXPECT_TRUE(IsEnabled(dialog, IDC_SETTINGS_ICON3));
     EXPECT_EQ("Allied - 3", StatusText(0));
     Choose(dialog, IDC_SETTINGS_ICON3, kApple);
     EXPECT_EQ(0x222222U, CanvasPixel(444, 380));
@@ -102,24 +89,15 @@ TEST_F(LoadScreenSettingsTest, IconCountEnablesTheThirdList) {
     Press(dialog, IDC_SETTINGS_THREE);
     EXPECT_EQ(0x222222U, CanvasPixel(519, 439)) << "the icon is still there";
   });
-}
-
-TEST_F(LoadScreenSettingsTest, ChosenIconIsShownAndRemembered) {
-  Open([this](HWND dialog) {
-    Choose(dialog, IDC_SETTINGS_ICON2, kZebra);
-    EXPECT_EQ(0x111111U, CanvasPixel(405, 380));
-    EXPECT_EQ(0x111111U, CanvasPixel(480, 439));
-    Choose(dialog, IDC_SETTINGS_ICON2, kApple);
-    EXPECT_EQ(0x222222U, CanvasPixel(480, 439));
-  });
-  EXPECT_EQ(kApple, doc.iconChoice[1]);
-  Open([](HWND dialog) {
-    EXPECT_EQ(kApple, Selected(dialog, IDC_SETTINGS_ICON2));
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [](HWND dialog) {
     EXPECT_EQ(-1, Selected(dialog, IDC_SETTINGS_ICON1));
+    EXPECT_EQ(kZebra, Selected(dialog, IDC_SETTINGS_ICON2));
+    EXPECT_EQ(kApple, Selected(dialog, IDC_SETTINGS_ICON3));
   });
 }
 
 TEST_F(LoadScreenSettingsTest, RefusedIconEmptiesItsSlot) {
+  constexpr char kWrongSize[] = "Error: This file isn't valid icon file\nImage size must be 76x60";
   const struct {
     int position;
     const char* message;
@@ -127,54 +105,17 @@ TEST_F(LoadScreenSettingsTest, RefusedIconEmptiesItsSlot) {
   } cases[] = {{kWide, kWrongSize, MB_ICONHAND},
                {kHigh, kWrongSize, MB_ICONHAND},
                {kLost, "Error: Can't find file!", MB_ICONEXCLAMATION}};
-  for (const auto& test : cases) {
-    user.When(kCaption, [&test](HWND dialog) {
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [&](HWND dialog) {
+    for (const auto& test : cases) {
       Choose(dialog, IDC_SETTINGS_ICON1, kApple);
       EXPECT_EQ(1, doc.icons[0].valid);
+      user.Answer("Corvanta", test.message, test.icon, IDOK);
       Choose(dialog, IDC_SETTINGS_ICON1, test.position);
       EXPECT_EQ(0, doc.icons[0].valid);
       EXPECT_EQ(kApple, doc.iconChoice[0]) << "the last good choice stays";
       EXPECT_EQ(test.position, Selected(dialog, IDC_SETTINGS_ICON1));
-      PressKey(GetDlgItem(dialog, IDCANCEL), VK_ESCAPE);
-    });
-    user.Answer("Corvanta", test.message, test.icon, IDOK);
-    Command(IDM_LOAD_SCREEN_SETTINGS);
-    EXPECT_EQ(0, doc.icons[0].valid);
-  }
-}
-
-TEST_F(LoadScreenSettingsTest, RememberedPositionPastTheEndSelectsNothing) {
-  doc.iconChoice[0] = 5;
-  doc.iconChoice[1] = kZebra;
-  Open([](HWND dialog) {
-    EXPECT_EQ(-1, Selected(dialog, IDC_SETTINGS_ICON1));
-    EXPECT_EQ(kZebra, Selected(dialog, IDC_SETTINGS_ICON2));
-  });
-  EXPECT_EQ(5, doc.iconChoice[0]);
-}
-
-TEST_F(LoadScreenSettingsTest, EnterChangesNothing) {
-  Open([](HWND dialog) {
-    PressKey(GetFocus(), VK_RETURN);
-    EXPECT_TRUE(IsWindow(dialog));
-    EXPECT_TRUE(IsWindowEnabled(dialog));
-  });
-}
-
-TEST_F(LoadScreenSettingsTest, DialogWithoutSettingsStaysOpenAndEmpty) {
-  SetIconCount(3);
-  WriteSettings("[SymbolsList]\n1=a,b\n");
-  user.Answer("Error", "Error: File Settings.ini invalid!", MB_ICONHAND, IDOK);
-  Open([](HWND dialog) {
-    for (const int list : kLists) EXPECT_EQ(Lines(), Items(dialog, list));
-    for (int id = IDC_SETTINGS_TWO; id <= IDC_SETTINGS_YURI; ++id) {
-      EXPECT_FALSE(IsChecked(dialog, id)) << id;
     }
-    EXPECT_EQ("", Text(dialog, IDC_SETTINGS_PATH));
-    EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_ICON1), GetFocus())
-        << "a radio button would be clicked by the focus";
   });
-  EXPECT_EQ(3, doc.iconCount);
 }
 
 }  // namespace

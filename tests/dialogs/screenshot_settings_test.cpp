@@ -9,6 +9,7 @@
 namespace {
 
 constexpr char kCaption[] = "Screen shot settings";
+constexpr int kColourSliders[] = {IDC_SHOT_RED, IDC_SHOT_GREEN, IDC_SHOT_BLUE};
 
 class ScreenshotSettingsTest : public EditorFixture {
  protected:
@@ -16,11 +17,6 @@ class ScreenshotSettingsTest : public EditorFixture {
     EditorFixture::SetUp();
     SetLayers(0, 1);  // the frame would cover part of the screenshot
     doc.screenshot = PlainPicture(234, 232, 0x8040FF);
-  }
-
-  void Open(const std::function<void(HWND)>& step) {
-    user.When(kCaption, step);
-    Command(IDM_SCREENSHOT_SETTINGS);
   }
 
   // The adjusted screenshot's colour, which preview, document and view have to agree on.
@@ -34,92 +30,58 @@ class ScreenshotSettingsTest : public EditorFixture {
   }
 };
 
-TEST_F(ScreenshotSettingsTest, HintAppearsWithoutAScreenshot) {
-  doc.screenshot.Free();
-  user.Answer("Corvanta", "Please select screenshot in the load screen settings dialog",
-              MB_ICONEXCLAMATION, IDOK);
-  EXPECT_EQ(0, OpenScreenshotSettings(doc.mainWindow));
-}
-
-TEST_F(ScreenshotSettingsTest, OpensNeutral) {
+TEST_F(ScreenshotSettingsTest, SlidersStartNeutralAndActOnTheirOwn) {
   doc.adjustRed = doc.adjustLightness = 3;
   doc.adjustGreyscale = 1;
-  Open([this](HWND dialog) {
-    for (const int id : {IDC_SHOT_RED, IDC_SHOT_GREEN, IDC_SHOT_BLUE, IDC_SHOT_LIGHTNESS}) {
-      EXPECT_EQ(255, SendDlgItemMessageA(dialog, id, TBM_GETPOS, 0, 0)) << id;
-      EXPECT_EQ(0, SendDlgItemMessageA(dialog, id, TBM_GETRANGEMIN, 0, 0)) << id;
-      EXPECT_EQ(id == IDC_SHOT_LIGHTNESS ? 511 : 255,
-                SendDlgItemMessageA(dialog, id, TBM_GETRANGEMAX, 0, 0));
-    }
+  WithDialog(kCaption, IDM_SCREENSHOT_SETTINGS, [this](HWND dialog) {
     EXPECT_FALSE(IsChecked(dialog, IDC_SHOT_GREYSCALE));
     EXPECT_EQ(0x7F3FFEU, Adjusted(dialog));
-    Press(dialog, IDCANCEL);
-  });
-}
-
-TEST_F(ScreenshotSettingsTest, EachSliderActsOnItsOwn) {
-  Open([this](HWND dialog) {
-    Slide(dialog, IDC_SHOT_RED, 128);
-    EXPECT_EQ(0x403FFEU, Adjusted(dialog));
-    Slide(dialog, IDC_SHOT_GREEN, 0);
-    EXPECT_EQ(0x4000FEU, Adjusted(dialog));
-    Slide(dialog, IDC_SHOT_BLUE, 64);
-    EXPECT_EQ(0x40003FU, Adjusted(dialog));
-    Slide(dialog, IDC_SHOT_RED, 255);
-    EXPECT_EQ(0x7F003FU, Adjusted(dialog)) << "adjustments don't pile up";
-    Slide(dialog, IDC_SHOT_LIGHTNESS, 511);
-    EXPECT_EQ(0xFFFFFFU, Adjusted(dialog));
-    Slide(dialog, IDC_SHOT_LIGHTNESS, 0);
-    EXPECT_EQ(0x010001U, Adjusted(dialog));
-    Press(dialog, IDCANCEL);
+    for (const int id : kColourSliders) {
+      EXPECT_EQ(255, SendDlgItemMessageA(dialog, id, TBM_GETPOS, 0, 0)) << id;
+      EXPECT_EQ(255, SendDlgItemMessageA(dialog, id, TBM_GETRANGEMAX, 0, 0)) << id;
+    }
+    const struct {
+      int slider, position;
+      uint32_t colour;
+    } steps[] = {{IDC_SHOT_RED, 128, 0x403FFE},       {IDC_SHOT_GREEN, 0, 0x4000FE},
+                 {IDC_SHOT_BLUE, 64, 0x40003F},       {IDC_SHOT_RED, 255, 0x7F003F},
+                 {IDC_SHOT_LIGHTNESS, 511, 0xFFFFFF}, {IDC_SHOT_LIGHTNESS, 0, 0x010001}};
+    for (const auto& step : steps) {
+      Slide(dialog, step.slider, step.position);
+      EXPECT_EQ(step.colour, Adjusted(dialog)) << step.slider << " at " << step.position;
+    }
   });
 }
 
 TEST_F(ScreenshotSettingsTest, GreyscaleDisablesTheColourSliders) {
-  Open([this](HWND dialog) {
+  WithDialog(kCaption, IDM_SCREENSHOT_SETTINGS, [this](HWND dialog) {
     Slide(dialog, IDC_SHOT_RED, 0);
     Press(dialog, IDC_SHOT_GREYSCALE);
-    for (const int id : {IDC_SHOT_RED, IDC_SHOT_GREEN, IDC_SHOT_BLUE}) {
-      EXPECT_FALSE(IsEnabled(dialog, id)) << id;
-    }
-    EXPECT_TRUE(IsEnabled(dialog, IDC_SHOT_LIGHTNESS));
+    for (const int id : kColourSliders) EXPECT_FALSE(IsEnabled(dialog, id)) << id;
     EXPECT_EQ(0x676767U, Adjusted(dialog));
     Slide(dialog, IDC_SHOT_LIGHTNESS, 511);
     EXPECT_EQ(0xFFFFFFU, Adjusted(dialog));
     Slide(dialog, IDC_SHOT_LIGHTNESS, 255);
     Press(dialog, IDC_SHOT_GREYSCALE);
-    EXPECT_TRUE(IsEnabled(dialog, IDC_SHOT_RED));
+    for (const int id : kColourSliders) EXPECT_TRUE(IsEnabled(dialog, id)) << id;
     EXPECT_EQ(0x003FFEU, Adjusted(dialog)) << "the slider acts again";
-    Press(dialog, IDCANCEL);
   });
 }
 
-TEST_F(ScreenshotSettingsTest, OkKeepsTheAdjustmentAndTheyCompound) {
+TEST_F(ScreenshotSettingsTest, OkKeepsAdjustmentsWhichCompoundAndNeedAScreenshot) {
   doc.screenshot = PlainPicture(234, 232, 0x800001);
   for (const uint32_t expected : {0x7F0000U, 0x7E0000U}) {
-    Open([this, expected](HWND dialog) {
+    WithDialog(kCaption, IDM_SCREENSHOT_SETTINGS, [this, expected](HWND dialog) {
       EXPECT_EQ(expected, Adjusted(dialog));
       PressKey(GetFocus(), VK_RETURN);
     });
     EXPECT_EQ(expected, doc.screenshot.ReadPixel(0, 0));
     EXPECT_EQ(expected, CanvasPixel(542 + 100, 267 + 100));
   }
-}
-
-TEST_F(ScreenshotSettingsTest, CancelRestoresTheScreenshot) {
-  for (const bool close : {false, true}) {
-    Open([this, close](HWND dialog) {
-      Slide(dialog, IDC_SHOT_LIGHTNESS, 0);
-      EXPECT_EQ(0x010101U, Adjusted(dialog));
-      if (close) {
-        SendMessageA(dialog, WM_CLOSE, 0, 0);
-      } else {
-        PressKey(GetFocus(), VK_ESCAPE);
-      }
-    });
-    EXPECT_EQ(0x8040FFU, doc.screenshot.ReadPixel(233, 231));
-    EXPECT_EQ(0x8040FFU, CanvasPixel(542 + 100, 267 + 100)) << "the view shows it again";
-  }
+  doc.screenshot.Free();
+  user.Answer("Corvanta", "Please select screenshot in the load screen settings dialog",
+              MB_ICONEXCLAMATION, IDOK);
+  EXPECT_EQ(0, OpenScreenshotSettings(doc.mainWindow));
 }
 
 }  // namespace

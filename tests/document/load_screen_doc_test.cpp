@@ -14,72 +14,44 @@
 
 namespace {
 
-TEST(LoadScreenDocTest, EverySideHasItsName) {
-  EXPECT_STREQ("Allied", SideName(Allied));
-  EXPECT_STREQ("Soviet", SideName(Soviet));
-  EXPECT_STREQ("Yuri", SideName(Yuri));
-  EXPECT_STREQ("Yuri", SideName(7));
-}
+class DocumentTest : public EditorFixture {};
 
-class DocumentTest : public EditorFixture {
- protected:
-  // The side and the icon count whose overlay is loaded: its one colour tells.
-  static std::pair<int, int> LoadedOverlay() {
-    for (int side = 0; side < 3; ++side) {
-      for (int count = 2; count <= 3; ++count) {
-        if (doc.sideOverlay.ReadPixel(300, 400) == OverlayPixel(side, count, 300, 400)) {
-          return {side, count};
-        }
-      }
-    }
-    return {-1, -1};
-  }
-};
-
-TEST_F(DocumentTest, SideAndIconCountChooseTheTemplates) {
+TEST_F(DocumentTest, SideAndIconCountChooseTheTemplatesOnly) {
   const struct {
     int side, count;
     const char* status;
-  } cases[] = {{Soviet, 3, "Soviet - 3"}, {Yuri, 3, "Yuri - 3"},     {Yuri, 2, "Yuri - 2"},
+  } steps[] = {{Soviet, 3, "Soviet - 3"}, {Yuri, 3, "Yuri - 3"},     {Yuri, 2, "Yuri - 2"},
                {Soviet, 2, "Soviet - 2"}, {Allied, 3, "Allied - 3"}, {Allied, 2, "Allied - 2"}};
-  for (const auto& step : cases) {
-    SetSide(step.side);
-    SetIconCount(step.count);
-    EXPECT_EQ(WorldMapPixel(step.side, 899, 599), doc.worldMap.ReadPixel(899, 599)) << step.status;
-    EXPECT_EQ(std::pair(step.side, step.count), LoadedOverlay()) << step.status;
-    EXPECT_EQ(step.status, StatusText(0));
-    EXPECT_EQ(WorldMapPixel(step.side, 0, 0), CanvasPixel(0, 0)) << "shown at once";
-    EXPECT_EQ(OverlayPixel(step.side, step.count, 240, 370), CanvasPixel(240, 370));
-  }
-}
-
-TEST_F(DocumentTest, CurrentSideAndCountReloadNothing) {
-  std::filesystem::remove_all(File("Templates"));
-  SetStatusText(0, "untouched");
-  doc.canvas.Fill(1);
-  SetSide(Allied);
-  SetIconCount(2);
-  for (const int count : {-1, 0, 1, 4}) SetIconCount(count);
-  EXPECT_EQ("untouched", StatusText(0));
-  EXPECT_EQ(1U, CanvasPixel(0, 0)) << "no repaint";
-  EXPECT_EQ(2, doc.iconCount);
-}
-
-TEST_F(DocumentTest, OtherSideKeepsOffsetsIconsAndScreenshot) {
-  doc.worldMapX = 850;
-  doc.worldMapY = 590;
+  doc.worldMapX = 50;
   for (ImageClass& icon : doc.icons) icon = PlainPicture(76, 60, 7);
   doc.screenshot = PlainPicture(234, 232, 8);
-  SetIconCount(3);
-  SetSide(Soviet);
-  SetIconCount(2);
-  EXPECT_EQ(850, doc.worldMapX);
-  EXPECT_EQ(590, doc.worldMapY);
-  for (const ImageClass& icon : doc.icons) EXPECT_EQ(1, icon.valid);
-  EXPECT_NE(7U, CanvasPixel(519, 439)) << "two icons";
-  SetIconCount(3);
-  EXPECT_EQ(7U, CanvasPixel(519, 439)) << "the third icon is still there";
-  EXPECT_EQ(8U, CanvasPixel(775, 498));
+  for (const auto& step : steps) {
+    SCOPED_TRACE(step.status);
+    SetSide(step.side);
+    SetIconCount(step.count);
+    EXPECT_EQ(step.status, StatusText(0));
+    EXPECT_EQ(WorldMapPixel(step.side, 849, 519), CanvasPixel(799, 519)) << "shown at once";
+    EXPECT_EQ(OverlayPixel(step.side, step.count, 240, 370), CanvasPixel(240, 370));
+    EXPECT_EQ(step.count == 3, CanvasPixel(519, 439) == 7) << "the third icon stays loaded";
+    EXPECT_EQ(8U, CanvasPixel(775, 498)) << "so does the screenshot";
+  }
+  EXPECT_STREQ("Yuri", SideName(7));
+}
+
+TEST_F(DocumentTest, CurrentSideAndImpossibleCountsReloadNothing) {
+  for (const char* count : {"-1", "0", "1", "4"}) {
+    std::filesystem::copy_file(File("Templates/all_2icomain.png"),
+                               File("Templates/all_" + std::string(count) + "icomain.png"));
+  }
+  doc.worldMap.Fill(5);
+  doc.sideOverlay.Fill(6);
+  doc.canvas.Fill(1);
+  SetSide(Allied);
+  for (const int count : {2, -1, 0, 1, 4}) SetIconCount(count);
+  EXPECT_EQ(1U, CanvasPixel(0, 0)) << "no repaint";
+  EXPECT_EQ(5U, doc.worldMap.ReadPixel(0, 0));
+  EXPECT_EQ(6U, doc.sideOverlay.ReadPixel(0, 0));
+  EXPECT_EQ("Allied - 2", StatusText(0));
 }
 
 // An application folder in which the editor has not been started yet.
@@ -87,35 +59,27 @@ class TemplatesTest : public EditorFixture {
  protected:
   void SetUp() override { WriteDefaultTemplates(); }
 
-  // Another way to write the application folder, of exactly that length.
-  void LengthenAppDir(size_t length) {
+  // Writes the path of the application folder so that it is so long.
+  static void LengthenAppDir(size_t length) {
     std::string longer = doc.appDir;
-    while (longer.size() + 1 < length) longer += ".\\";
-    if (longer.size() < length) longer += "\\";
-    ASSERT_EQ(length, longer.size());
-    std::memcpy(doc.appDir, longer.c_str(), length + 1);
+    while (longer.size() < length) longer += longer.back() == '.' ? "\\" : ".";
+    if (longer.back() == '.') longer.replace(longer.size() - 1, 1, "\\");
+    std::strcpy(doc.appDir, longer.c_str());
   }
 };
 
-struct FixedTemplate {
-  const char* file;
-  const char* message;
-};
-
-const FixedTemplate kFixedTemplates[] = {
-    {"com_largetargetbox.png", "Error: Can't find com_largetargetbox.png file."},
-    {"com_smalltargetbox.png", "Error: Can't find com_smalltargetbox.png file."},
-    {"com_worldmap2x.png", "Error: Can't find com_worldmap2x.PNG file."},
-};
-
 TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
-  for (const FixedTemplate& fixed : kFixedTemplates) {
-    const std::string file = File(std::string("Templates/") + fixed.file);
+  const std::pair<const char*, const char*> templates[] = {
+      {"com_largetargetbox.png", "Error: Can't find com_largetargetbox.png file."},
+      {"com_smalltargetbox.png", "Error: Can't find com_smalltargetbox.png file."},
+      {"com_worldmap2x.png", "Error: Can't find com_worldmap2x.PNG file."}};
+  for (const auto& [name, message] : templates) {
+    const std::string file = File(std::string("Templates/") + name);
     std::filesystem::rename(file, File("kept.png"));
-    user.Answer("Corvanta", fixed.message, MB_ICONHAND, IDOK);
-    EXPECT_FALSE(Start()) << fixed.file;
+    user.Answer("Corvanta", message, MB_ICONHAND, IDOK);
+    EXPECT_FALSE(Start()) << name;
     EXPECT_EQ(nullptr, doc.mainWindow);
-    EXPECT_EQ(0U, user.StepsLeft()) << fixed.file;
+    EXPECT_EQ(0U, user.StepsLeft()) << name;
     std::filesystem::rename(File("kept.png"), file);
     FreeDocumentImages();
     doc.canvas.Free();
@@ -125,24 +89,23 @@ TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
 }
 
 // "Templates\com_largetargetbox.png" has 32 characters.
-TEST_F(TemplatesTest, PathOf259CharactersIsLoaded) {
+TEST_F(TemplatesTest, PathOf260CharactersCountsAsMissing) {
+  const std::string folder = doc.appDir;
+  LengthenAppDir(228);
+  user.Answer("Corvanta", "Error: Can't find com_largetargetbox.png file.", MB_ICONHAND, IDOK);
+  EXPECT_FALSE(Start());
+  std::strcpy(doc.appDir, folder.c_str());
   LengthenAppDir(227);
+  ImageUnInit();
   ASSERT_TRUE(Start());
   EXPECT_EQ(1, doc.worldMap2x.valid);
 }
 
-TEST_F(TemplatesTest, PathOf260CharactersCountsAsMissing) {
-  LengthenAppDir(228);
-  user.Answer("Corvanta", kFixedTemplates[0].message, MB_ICONHAND, IDOK);
-  EXPECT_FALSE(Start());
-}
+// The message goes to the standard error output, where the parent process looks for it.
+using DocumentDeathTest = DocumentTest;
 
-// A side template that is missing ends the process after a message.
-class SideTemplateDeathTest : public DocumentTest {
- protected:
-  // Writes the message box to the standard error output, where the parent process looks for it, and
-  // closes it.
-  void ReportMessage() {
+TEST_F(DocumentDeathTest, MissingSideTemplateEndsTheProcessAfterAMessage) {
+  const auto change = [this](void (*choose)(int32_t), int32_t choice) {
     user.When("Error", [](HWND box) {
       EnumChildWindows(
           box,
@@ -153,30 +116,13 @@ class SideTemplateDeathTest : public DocumentTest {
           0);
       Press(box, IDOK);
     });
-  }
-};
-
-const auto kExitsNormally = testing::ExitedWithCode(0);
-constexpr char kMessage[] = "\\[Can't find file!\\]";
-
-TEST_F(SideTemplateDeathTest, MissingWorldMapEndsTheProcess) {
+    choose(choice);
+  };
   std::filesystem::remove(File("Templates/sov_worldmap.png"));
-  EXPECT_EXIT(
-      {
-        ReportMessage();
-        SetSide(Soviet);
-      },
-      kExitsNormally, kMessage);
-}
-
-TEST_F(SideTemplateDeathTest, MissingOverlayEndsTheProcess) {
   std::filesystem::remove(File("Templates/all_3icomain.png"));
-  EXPECT_EXIT(
-      {
-        ReportMessage();
-        SetIconCount(3);
-      },
-      kExitsNormally, kMessage);
+  const auto normally = testing::ExitedWithCode(0);
+  EXPECT_EXIT(change(SetSide, Soviet), normally, "\\[Can't find file!\\]");
+  EXPECT_EXIT(change(SetIconCount, 3), normally, "\\[Can't find file!\\]");
 }
 
 }  // namespace

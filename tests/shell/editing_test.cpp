@@ -7,132 +7,86 @@
 
 namespace {
 
+// A key that moves something at (x, y); positions count from its room's end when they are negative.
 struct MovingKey {
   const char* name;
   int key;
   std::vector<BYTE> held;
   int32_t x, y, newX, newY;
 };
-
-// Negative positions count from the map's end: -1 is its last column or row.
-const MovingKey kMapKeys[] = {
-    {"Left", VK_LEFT, {}, 10, 20, 9, 20},
-    {"Right", VK_RIGHT, {}, 10, 20, 11, 20},
-    {"Up", VK_UP, {}, 10, 20, 10, 19},
-    {"Down", VK_DOWN, {}, 10, 20, 10, 21},
-    {"ShiftStepsTwo", VK_RIGHT, {VK_SHIFT}, 10, 20, 12, 20},
-    {"CtrlStepsFive", VK_DOWN, {VK_CONTROL}, 10, 20, 10, 25},
-    {"CtrlShiftStepsTen", VK_RIGHT, {VK_CONTROL, VK_SHIFT}, 10, 20, 20, 20},
-    {"LeftFromTheFirstColumn", VK_LEFT, {}, 0, 20, -1, 20},
-    {"UpFromTheFirstRow", VK_UP, {}, 10, 0, 10, -1},
-    {"RightFromTheLastColumn", VK_RIGHT, {}, -1, 20, 0, 20},
-    {"DownFromTheLastRow", VK_DOWN, {}, 10, -1, 10, 0},
-    {"LongStepLeftWrapsToTheEdge", VK_LEFT, {VK_CONTROL}, 2, 20, -1, 20},
-    {"LongStepRightWrapsToTheEdge", VK_RIGHT, {VK_CONTROL}, -3, 20, 0, 20},
-    {"LongStepUpWrapsToTheEdge", VK_UP, {VK_CONTROL, VK_SHIFT}, 10, 9, 10, -1},
-    {"LongStepDownReachesTheLastRow", VK_DOWN, {VK_CONTROL}, 10, -6, 10, -1},
-    {"OtherKey", 'A', {}, 10, 20, 10, 20},
-    {"Tab", VK_TAB, {}, 10, 20, 10, 20},
-    {"Delete", VK_DELETE, {}, 10, 20, 10, 20},
-};
-
-// Positions of the table count from the map's end when they are negative.
-int32_t At(int32_t position, int32_t size) { return position < 0 ? size + position : position; }
+using MovingKeys = std::vector<MovingKey>;
 
 class EditingTest : public EditorFixture {
  protected:
   // An item of 20 x 10 pixels.
   static void Add(int32_t x, int32_t y) { AddItem(PlainPicture(20, 10, 0x111111), x, y, 0); }
 
-  // Presses every key of the table on a map and its offsets.
-  void ExpectMapMoves(int32_t& x, int32_t& y, const ImageClass& map) {
-    for (const MovingKey& test : kMapKeys) {
-      x = At(test.x, map.width);
-      y = At(test.y, map.height);
+  // Presses every key on what stands in a room of that size.
+  void ExpectMoves(const MovingKeys& keys, int32_t& x, int32_t& y, SIZE room) {
+    const auto at = [](int32_t place, LONG size) { return place < 0 ? size + place : place; };
+    for (const MovingKey& test : keys) {
+      x = at(test.x, room.cx);
+      y = at(test.y, room.cy);
       doc.canvas.Fill(1);
-      const HoldKeys keys(test.held);
+      const HoldKeys held(test.held);
       Key(test.key);
-      EXPECT_EQ(At(test.newX, map.width), x) << test.name;
-      EXPECT_EQ(At(test.newY, map.height), y) << test.name;
+      EXPECT_EQ(at(test.newX, room.cx), x) << test.name;
+      EXPECT_EQ(at(test.newY, room.cy), y) << test.name;
       EXPECT_NE(1U, CanvasPixel(0, 0)) << test.name << ": repainted whatever the key was";
     }
   }
 };
 
-TEST_F(EditingTest, KeysMoveTheWorldMapAndWrapToItsEdges) {
-  ExpectMapMoves(doc.worldMapX, doc.worldMapY, doc.worldMap);
-  EXPECT_EQ(232, doc.worldMap2xX);
-  EXPECT_EQ(103, doc.worldMap2xY);
-}
-
-TEST_F(EditingTest, KeysMoveTheZoomedMapAndWrapToItsEdges) {
+TEST_F(EditingTest, KeysMoveTheModesMapAndWrapToItsEdges) {
+  const MovingKeys keys = {
+      {"left", VK_LEFT, {}, 10, 20, 9, 20},
+      {"right", VK_RIGHT, {}, 10, 20, 11, 20},
+      {"up", VK_UP, {}, 10, 20, 10, 19},
+      {"down", VK_DOWN, {}, 10, 20, 10, 21},
+      {"Shift: two steps", VK_RIGHT, {VK_SHIFT}, 10, 20, 12, 20},
+      {"Ctrl: five", VK_DOWN, {VK_CONTROL}, 10, 20, 10, 25},
+      {"both: ten", VK_RIGHT, {VK_CONTROL, VK_SHIFT}, 10, 20, 20, 20},
+      {"left from the first column", VK_LEFT, {}, 0, 20, -1, 20},
+      {"right from the last column", VK_RIGHT, {}, -1, 20, 0, 20},
+      {"down from the last row", VK_DOWN, {}, 10, -1, 10, 0},
+      {"long step right wraps to the edge", VK_RIGHT, {VK_CONTROL}, -3, 20, 0, 20},
+      {"long step up wraps to the edge", VK_UP, {VK_CONTROL, VK_SHIFT}, 10, 9, 10, -1},
+      {"long step reaches the last row", VK_DOWN, {VK_CONTROL}, 10, -6, 10, -1},
+      {"other key", VK_TAB, {}, 10, 20, 10, 20},
+  };
+  ExpectMoves(keys, doc.worldMapX, doc.worldMapY, {900, 600});
+  EXPECT_EQ(std::pair(232, 103), std::pair(doc.worldMap2xX, doc.worldMap2xY));
   Command(IDM_MOVE_LARGE_MAP);
-  ExpectMapMoves(doc.worldMap2xX, doc.worldMap2xY, doc.worldMap2x);
-  EXPECT_EQ(0, doc.worldMapX);
-  EXPECT_EQ(0, doc.worldMapY);
-}
-
-struct BoxKey {
-  const char* name;
-  int key;
-  std::vector<BYTE> held;
-  int32_t from, to;
-};
-
-// 289 - 58 + 48 = 279 is the lowest place.
-const BoxKey kBoxKeys[] = {
-    {"Up", VK_UP, {}, 100, 99},
-    {"Down", VK_DOWN, {}, 100, 101},
-    {"UpToTheTop", VK_UP, {}, 57, 56},
-    {"UpAtTheTop", VK_UP, {}, 56, 56},
-    {"FastUpPastTheTop", VK_UP, {VK_CONTROL}, 60, 56},
-    {"DownToTheBottom", VK_DOWN, {}, 278, 279},
-    {"DownAtTheBottom", VK_DOWN, {}, 279, 279},
-    {"FastDownPastTheBottom", VK_DOWN, {VK_CONTROL, VK_SHIFT}, 270, 279},
-    {"Left", VK_LEFT, {}, 100, 100},
-    {"Right", VK_RIGHT, {VK_CONTROL}, 100, 100},
-};
-
-TEST_F(EditingTest, TargetBoxMovesUpAndDownWithinItsLimits) {
+  doc.worldMapX = doc.worldMapY = 0;
+  ExpectMoves(keys, doc.worldMap2xX, doc.worldMap2xY, {700, 500});
   Command(IDM_MOVE_TARGET_BOX);
-  for (const BoxKey& test : kBoxKeys) {
-    doc.targetBoxY = test.from;
-    const HoldKeys keys(test.held);
-    Key(test.key);
-    EXPECT_EQ(test.to, doc.targetBoxY) << test.name;
-    EXPECT_EQ(232, doc.targetBoxX) << test.name;
-  }
-  EXPECT_EQ(0, doc.worldMapX);
-  EXPECT_EQ(0, doc.worldMapY);
+  // 289 - 58 + 48 = 279 is the lowest place.
+  ExpectMoves({{"up", VK_UP, {}, 232, 100, 232, 99},
+               {"down", VK_DOWN, {}, 232, 100, 232, 101},
+               {"past the top", VK_UP, {VK_CONTROL}, 232, 60, 232, 56},
+               {"past the bottom", VK_DOWN, {VK_CONTROL, VK_SHIFT}, 232, 270, 232, 279},
+               {"left", VK_LEFT, {}, 232, 100, 232, 100},
+               {"right", VK_RIGHT, {VK_CONTROL}, 232, 100, 232, 100}},
+              doc.targetBoxX, doc.targetBoxY, {});
+  EXPECT_EQ(std::pair(0, 0), std::pair(doc.worldMapX, doc.worldMapY));
 }
-
-const MovingKey kItemKeys[] = {
-    {"Left", VK_LEFT, {}, 100, 200, 99, 200},
-    {"Right", VK_RIGHT, {VK_SHIFT}, 100, 200, 102, 200},
-    {"Up", VK_UP, {VK_CONTROL}, 100, 200, 100, 195},
-    {"Down", VK_DOWN, {VK_CONTROL, VK_SHIFT}, 100, 200, 100, 210},
-    {"LeftPastTheEdge", VK_LEFT, {VK_CONTROL}, 3, 200, 0, 200},
-    {"UpPastTheEdge", VK_UP, {VK_CONTROL}, 100, 3, 100, 0},
-    {"RightToTheEdge", VK_RIGHT, {}, 778, 200, 779, 200},
-    {"RightPastTheEdge", VK_RIGHT, {VK_CONTROL}, 778, 200, 779, 200},
-    {"DownToTheEdge", VK_DOWN, {}, 100, 508, 100, 509},
-    {"DownPastTheEdge", VK_DOWN, {VK_CONTROL}, 100, 508, 100, 509},
-};
 
 TEST_F(EditingTest, KeysMoveTheSelectedItemInsteadOfTheMap) {
   Add(0, 0);
   SelectItem(0);
-  for (const MovingKey& test : kItemKeys) {
-    doc.items.At(0).x = test.x;
-    doc.items.At(0).y = test.y;
-    const HoldKeys keys(test.held);
-    Key(test.key);
-    EXPECT_EQ(test.newX, ItemX(0)) << test.name;
-    EXPECT_EQ(test.newY, ItemY(0)) << test.name;
-    EXPECT_EQ(0xEEEEEEU, CanvasPixel(test.newX, test.newY)) << test.name << " is shown at once";
-  }
-  EXPECT_EQ(0, doc.worldMapX);
-  EXPECT_EQ(0, doc.worldMapY);
+  ExpectMoves({{"left", VK_LEFT, {}, 100, 200, 99, 200},
+               {"right", VK_RIGHT, {VK_SHIFT}, 100, 200, 102, 200},
+               {"up", VK_UP, {VK_CONTROL}, 100, 200, 100, 195},
+               {"down", VK_DOWN, {VK_CONTROL, VK_SHIFT}, 100, 200, 100, 210},
+               {"left past the edge", VK_LEFT, {VK_CONTROL}, 3, 200, 0, 200},
+               {"up past the edge", VK_UP, {VK_CONTROL}, 100, 3, 100, 0},
+               {"right to the edge", VK_RIGHT, {}, 778, 200, 779, 200},
+               {"right past the edge", VK_RIGHT, {VK_CONTROL}, 778, 200, 779, 200},
+               {"down to the edge", VK_DOWN, {}, 100, 508, 100, 509},
+               {"down past the edge", VK_DOWN, {VK_CONTROL}, 100, 508, 100, 509}},
+              doc.items.At(0).x, doc.items.At(0).y, {});
+  EXPECT_EQ(0xEEEEEEU, CanvasPixel(100, 509)) << "shown at once";
+  EXPECT_EQ(std::pair(0, 0), std::pair(doc.worldMapX, doc.worldMapY));
 }
 
 TEST_F(EditingTest, TabEscapeAndDeleteManageTheItems) {
@@ -145,6 +99,9 @@ TEST_F(EditingTest, TabEscapeAndDeleteManageTheItems) {
   EXPECT_EQ(0xEEEEEEU, CanvasPixel(200, 400));
   Key(VK_TAB);
   EXPECT_EQ(0, doc.selectedItem);
+  doc.canvas.Fill(1);
+  for (const int key : {int{'A'}, VK_SHIFT, VK_RETURN, VK_SPACE, VK_HOME}) Key(key);
+  EXPECT_EQ(1U, CanvasPixel(0, 0)) << "other keys don't even repaint";
   Key(VK_DELETE);
   EXPECT_EQ(2, doc.items.Count());
   EXPECT_EQ(-1, doc.selectedItem);
@@ -154,16 +111,6 @@ TEST_F(EditingTest, TabEscapeAndDeleteManageTheItems) {
   EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
   Key(VK_RIGHT);
   EXPECT_EQ(1, doc.worldMapX) << "the arrow keys are the map's again";
-}
-
-TEST_F(EditingTest, OtherKeysChangeNothingWhileAnItemIsSelected) {
-  Add(100, 400);
-  SelectItem(0);
-  doc.canvas.Fill(1);
-  for (const int key : {int{'A'}, VK_SHIFT, VK_CONTROL, VK_RETURN, VK_SPACE, VK_HOME}) Key(key);
-  EXPECT_EQ(1U, CanvasPixel(0, 0)) << "no repaint";
-  EXPECT_EQ(100, ItemX(0));
-  EXPECT_EQ(0, doc.selectedItem);
 }
 
 TEST_F(EditingTest, DragMovesTheGrabbedItem) {
@@ -202,6 +149,8 @@ TEST_F(EditingTest, DragStopsAtThePicturesEdgesAndKeysGoOneRowFurther) {
 
 TEST_F(EditingTest, ClickBesideEveryItemUnselects) {
   Add(100, 200);
+  SendMessageA(doc.viewWindow, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(105, 205));
+  EXPECT_EQ(-1, doc.selectedItem) << "the second press of a double click does nothing";
   ClickCanvas(105, 205);
   EXPECT_EQ(0, doc.selectedItem);
   EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
@@ -211,32 +160,19 @@ TEST_F(EditingTest, ClickBesideEveryItemUnselects) {
   EXPECT_EQ(nullptr, GetCapture());
 }
 
-TEST_F(EditingTest, SecondPressOfADoubleClickDoesNothing) {
-  Add(100, 200);
-  SendMessageA(doc.viewWindow, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(105, 205));
-  EXPECT_EQ(-1, doc.selectedItem);
-  EXPECT_EQ(0, doc.dragging);
-}
-
-TEST_F(EditingTest, LostCaptureEndsTheDrag) {
-  Add(100, 200);
-  PressCanvas(105, 205);
-  ReleaseCapture();
-  EXPECT_EQ(0, doc.dragging);
-  EXPECT_EQ(-1, doc.draggedItem);
-  MoveCanvas(300, 300);
-  EXPECT_EQ(100, ItemX(0));
-  EXPECT_EQ(0, doc.selectedItem);
-}
-
-TEST_F(EditingTest, DeletingDuringADragMovesNoOtherItem) {
+TEST_F(EditingTest, LostCaptureOrItemEndsTheDrag) {
   Add(100, 200);
   Add(300, 300);
+  PressCanvas(105, 205);
+  ReleaseCapture();
+  MoveCanvas(200, 250);
+  EXPECT_EQ(100, ItemX(0));
+  EXPECT_EQ(0, doc.selectedItem);
   PressCanvas(105, 205);
   Key(VK_DELETE);
   MoveCanvas(200, 250);
   EXPECT_EQ(1, doc.items.Count());
-  EXPECT_EQ(300, ItemX(0));
+  EXPECT_EQ(300, ItemX(0)) << "no other item moves instead";
   ReleaseCanvas(200, 250);
   EXPECT_EQ(nullptr, GetCapture());
 }

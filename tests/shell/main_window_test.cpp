@@ -14,52 +14,48 @@ constexpr char kCloseQuestion[] = "Do you want to close Corvanta now?\nAll data 
 
 class MainWindowTest : public EditorFixture {
  protected:
-  static HMENU Popup(int position) { return GetSubMenu(GetMenu(doc.mainWindow), position); }
-
-  // The lines of a popup as "text=identifier", separators as "-".
-  static std::vector<std::string> Lines(int popup) {
-    std::vector<std::string> lines;
-    for (int i = 0; i < GetMenuItemCount(Popup(popup)); ++i) {
-      char text[64] = "";
-      const auto position = static_cast<UINT>(i);
-      GetMenuStringA(Popup(popup), position, text, sizeof text, MF_BYPOSITION);
-      const bool line = GetMenuState(Popup(popup), position, MF_BYPOSITION) & MF_SEPARATOR;
-      lines.push_back(
-          line ? "-" : std::string(text) + "=" + std::to_string(GetMenuItemID(Popup(popup), i)));
+  // Chooses a command by what the menu says.
+  void Choose(const std::string& wanted) {
+    for (int popup = 0; popup < GetMenuItemCount(GetMenu(doc.mainWindow)); ++popup) {
+      const HMENU menu = GetSubMenu(GetMenu(doc.mainWindow), popup);
+      for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        char text[64] = "";
+        GetMenuStringA(menu, static_cast<UINT>(i), text, sizeof text, MF_BYPOSITION);
+        if (text == wanted) return Command(GetMenuItemID(menu, i));
+      }
     }
-    return lines;
+    ADD_FAILURE() << "The menu does not say " << wanted;
   }
 
-  // Size of a window with its frame.
-  static SIZE Size(HWND window) {
-    RECT bounds{};
-    GetWindowRect(window, &bounds);
-    return {bounds.right - bounds.left, bounds.bottom - bounds.top};
+  // The view fills what a status bar below leaves.
+  static void ExpectLaidOut() {
+    RECT view{}, bar{};
+    GetWindowRect(doc.viewWindow, &view);
+    GetWindowRect(doc.statusBar, &bar);
+    const LONG height = IsWindowVisible(doc.statusBar) ? bar.bottom - bar.top : 0;
+    const SIZE client = ClientSize(doc.mainWindow);
+    EXPECT_EQ(client.cx, view.right - view.left);
+    EXPECT_EQ(client.cy - height, view.bottom - view.top);
+    if (height > 0) {
+      EXPECT_EQ(view.bottom, bar.top);
+    }
   }
 };
 
-TEST_F(MainWindowTest, MenuIsComplete) {
-  const struct {
-    const char* title;
-    std::vector<std::string> lines;
-  } menu[] = {
-      {"File", {"Save as SHP...=40038", "Save as...=40004", "-", "Exit=40003"}},
-      {"Edit",
-       {"Add new item...=40023", "Select item...=40025", "Delete item=40029", "Unselect item=40028",
-        "-", "Copy to clipboard=40041"}},
-      {"View", {"View top layer=40020", "View bottom layer=40021", "-", "Status bar=40045"}},
-      {"Tools", {"Load screen settings...=40030", "Screenshot settings...=40043"}},
-      {"Mode", {"Move small map=40034", "Move large map=40035", "Move target box=40036"}},
-      {"Help", {"Help=40037", "-", "About=40013"}},
-  };
-  ASSERT_EQ(6, GetMenuItemCount(GetMenu(doc.mainWindow)));
-  UINT position = 0;
-  for (const auto& popup : menu) {
-    char title[64] = "";
-    GetMenuStringA(GetMenu(doc.mainWindow), position, title, sizeof title, MF_BYPOSITION);
-    EXPECT_STREQ(popup.title, title);
-    EXPECT_EQ(popup.lines, Lines(static_cast<int>(position))) << popup.title;
-    ++position;
+TEST_F(MainWindowTest, MenuOpensEveryDialog) {
+  doc.animateAboutBox = 0;
+  doc.screenshot = PlainPicture(234, 232, 1);
+  WriteSettings("[SymbolsList]\n[CameosList]\n");
+  for (const auto& [command, dialog] : {std::pair("Save as SHP...", "Save As"),
+                                        {"Save as...", "Save As"},
+                                        {"Add new item...", "Add new item"},
+                                        {"Select item...", "Select item"},
+                                        {"Load screen settings...", "Load screen settings"},
+                                        {"Screenshot settings...", "Screen shot settings"},
+                                        {"About", "About Corvanta"}}) {
+    WithDialog(
+        dialog, [this, command = command] { Choose(command); }, [](HWND) {});
+    EXPECT_EQ(0U, user.StepsLeft()) << command;
   }
 }
 
@@ -70,16 +66,7 @@ TEST_F(MainWindowTest, StartsWithItsMarksAndTexts) {
        {IDM_VIEW_TOP_LAYER, IDM_VIEW_BOTTOM_LAYER, IDM_STATUS_BAR, IDM_MOVE_SMALL_MAP}) {
     EXPECT_TRUE(IsCommandChecked(id)) << id;
   }
-  EXPECT_FALSE(IsCommandChecked(IDM_MOVE_LARGE_MAP));
-  EXPECT_FALSE(IsCommandChecked(IDM_MOVE_TARGET_BOX));
-  for (const UINT id : {IDM_DELETE_ITEM, IDM_SELECT_ITEM, IDM_UNSELECT_ITEM}) {
-    EXPECT_TRUE(IsCommandEnabled(id)) << id;
-  }
-  int edges[3] = {};
-  EXPECT_EQ(3, SendMessageA(doc.statusBar, SB_GETPARTS, 3, reinterpret_cast<LPARAM>(edges)));
-  EXPECT_EQ(70, edges[0]);
-  EXPECT_EQ(270, edges[1]);
-  EXPECT_EQ(-1, edges[2]);
+  EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
   EXPECT_EQ("Allied - 2", StatusText(0));
   EXPECT_EQ("Current mode: Move small map", StatusText(1));
   EXPECT_EQ("Press CTRL to move map faster(5x) or press CTRL+SHIFT to move map faster (10x)",
@@ -87,92 +74,63 @@ TEST_F(MainWindowTest, StartsWithItsMarksAndTexts) {
 }
 
 TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
-  const struct {
-    UINT id;
-    EditMode mode;
-    const char* status;
-  } modes[] = {{IDM_MOVE_LARGE_MAP, MoveLargeMap, "Current mode: Move large map"},
-               {IDM_MOVE_TARGET_BOX, MoveTargetBox, "Current mode: Move target box"},
-               {IDM_MOVE_SMALL_MAP, MoveSmallMap, "Current mode: Move small map"}};
-  for (const auto& chosen : modes) {
-    Command(chosen.id);
-    EXPECT_EQ(chosen.mode, doc.mode);
-    EXPECT_EQ(chosen.status, StatusText(1));
-    for (const auto& mode : modes) {
-      EXPECT_EQ(mode.id == chosen.id, IsCommandChecked(mode.id)) << mode.status;
-    }
+  const std::pair<UINT, const char*> modes[] = {{IDM_MOVE_LARGE_MAP, "Move large map"},
+                                                {IDM_MOVE_TARGET_BOX, "Move target box"},
+                                                {IDM_MOVE_SMALL_MAP, "Move small map"}};
+  for (const auto& [chosen, text] : modes) {
+    Choose(text);
+    EXPECT_EQ(std::string("Current mode: ") + text, StatusText(1));
+    for (const auto& mode : modes) EXPECT_EQ(mode.first == chosen, IsCommandChecked(mode.first));
   }
 }
 
 TEST_F(MainWindowTest, LayerCommandsToggleOneLayerEach) {
-  EXPECT_EQ(FramePixel(154, 0), CanvasPixel(500, 52));
-  Command(IDM_VIEW_TOP_LAYER);
-  EXPECT_EQ(WorldMapPixel(Allied, 500, 52), CanvasPixel(500, 52));
-  EXPECT_EQ(0, doc.showTopLayer);
-  EXPECT_EQ(1, doc.showBottomLayer);
-  EXPECT_FALSE(IsCommandChecked(IDM_VIEW_TOP_LAYER));
-  Command(IDM_VIEW_BOTTOM_LAYER);
-  EXPECT_EQ(0, doc.showBottomLayer);
-  EXPECT_FALSE(IsCommandChecked(IDM_VIEW_BOTTOM_LAYER));
-  EXPECT_EQ(0U, CanvasPixel(400, 100));
-  Command(IDM_VIEW_TOP_LAYER);
-  EXPECT_EQ(1, doc.showTopLayer);
-  EXPECT_EQ(0, doc.showBottomLayer);
-  EXPECT_TRUE(IsCommandChecked(IDM_VIEW_TOP_LAYER));
-}
-
-TEST_F(MainWindowTest, ViewFillsWhatTheStatusBarLeaves) {
-  const SIZE client = ClientSize(doc.mainWindow);
-  const LONG bar = Size(doc.statusBar).cy;
-  EXPECT_GT(bar, 0);
-  EXPECT_EQ(client.cx, Size(doc.viewWindow).cx);
-  EXPECT_EQ(client.cy - bar, Size(doc.viewWindow).cy);
-  Command(IDM_STATUS_BAR);
-  EXPECT_FALSE(IsCommandChecked(IDM_STATUS_BAR));
-  EXPECT_FALSE(IsWindowVisible(doc.statusBar));
-  EXPECT_EQ(client.cy, Size(doc.viewWindow).cy);
-  SetWindowPos(doc.mainWindow, nullptr, 0, 0, 640, 480, SWP_NOMOVE | SWP_NOZORDER);
-  EXPECT_EQ(ClientSize(doc.mainWindow).cy, Size(doc.viewWindow).cy);
-  Command(IDM_STATUS_BAR);
-  EXPECT_TRUE(IsCommandChecked(IDM_STATUS_BAR));
-  EXPECT_TRUE(IsWindowVisible(doc.statusBar));
-  EXPECT_EQ(ClientSize(doc.mainWindow).cy - bar, Size(doc.viewWindow).cy);
-  EXPECT_EQ(ClientSize(doc.mainWindow).cx, Size(doc.viewWindow).cx);
-}
-
-TEST_F(MainWindowTest, ResizingLaysOutAgain) {
-  for (const auto& [width, height] : {std::pair(1100, 700), std::pair(500, 300)}) {
-    SetWindowPos(doc.mainWindow, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-    const SIZE client = ClientSize(doc.mainWindow);
-    EXPECT_EQ(client.cx, Size(doc.viewWindow).cx);
-    EXPECT_EQ(client.cy - Size(doc.statusBar).cy, Size(doc.viewWindow).cy);
-    RECT bar{}, view{};
-    GetWindowRect(doc.statusBar, &bar);
-    GetWindowRect(doc.viewWindow, &view);
-    EXPECT_EQ(view.bottom, bar.top);
+  const struct {
+    const char* command;
+    uint32_t inFrame, beside;  // what the picture shows then
+    bool top, bottom;
+  } steps[] = {
+      {"View top layer", WorldMapPixel(Allied, 500, 52), WorldMapPixel(Allied, 9, 9), false, true},
+      {"View bottom layer", 0, 0, false, false},
+      {"View top layer", FramePixel(154, 0), 0, true, false},
+      {"View bottom layer", FramePixel(154, 0), WorldMapPixel(Allied, 9, 9), true, true}};
+  for (const auto& step : steps) {
+    Choose(step.command);
+    EXPECT_EQ(step.inFrame, CanvasPixel(500, 52));
+    EXPECT_EQ(step.beside, CanvasPixel(9, 9));
+    EXPECT_EQ(step.top, IsCommandChecked(IDM_VIEW_TOP_LAYER));
+    EXPECT_EQ(step.bottom, IsCommandChecked(IDM_VIEW_BOTTOM_LAYER));
   }
 }
 
-TEST_F(MainWindowTest, MinimisedWindowIsHarmless) {
+TEST_F(MainWindowTest, ViewFillsWhatTheStatusBarLeavesAtEverySize) {
+  for (const bool bar : {true, false, true}) {
+    if (bar != IsCommandChecked(IDM_STATUS_BAR)) Choose("Status bar");
+    EXPECT_EQ(bar, IsCommandChecked(IDM_STATUS_BAR));
+    EXPECT_EQ(bar, IsWindowVisible(doc.statusBar) != 0);
+    ExpectLaidOut();
+    for (const SIZE size : {SIZE{1100, 700}, SIZE{500, 300}}) {
+      SetWindowPos(doc.mainWindow, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+      ExpectLaidOut();
+    }
+  }
   SendMessageA(doc.mainWindow, WM_SIZE, SIZE_MINIMIZED, 0);
   EXPECT_GE(doc.viewVisibleWidth, 0);
   EXPECT_GE(doc.viewVisibleHeight, 0);
-  Key(VK_RIGHT);
-  EXPECT_EQ(1, doc.worldMapX);
 }
 
-TEST_F(MainWindowTest, NoKeepsTheEditorAndItsPicture) {
+TEST_F(MainWindowTest, EditorEndsOnlyOnYes) {
   AddItem(PlainPicture(4, 4, 1), 10, 400, 0);
-  user.Answer("Corvanta", kCloseQuestion, MB_ICONQUESTION, IDNO);
-  SendMessageA(doc.mainWindow, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(IsWindow(doc.mainWindow));
-  EXPECT_EQ(1, doc.items.Count());
-  EXPECT_EQ(1, doc.worldMap.valid);
-}
-
-TEST_F(MainWindowTest, YesDestroysTheWindowAndEndsTheLoop) {
+  const auto closeBox = [] { SendMessageA(doc.mainWindow, WM_CLOSE, 0, 0); };
+  const auto exit = [this] { Choose("Exit"); };
+  for (const std::function<void()>& close : {std::function<void()>(closeBox), {exit}}) {
+    user.Answer("Corvanta", kCloseQuestion, MB_ICONQUESTION, IDNO);
+    close();
+    EXPECT_TRUE(IsWindow(doc.mainWindow));
+    EXPECT_EQ(1, doc.items.Count());
+  }
   user.Answer("Corvanta", kCloseQuestion, MB_ICONQUESTION, IDYES);
-  SendMessageA(doc.mainWindow, WM_CLOSE, 0, 0);
+  exit();
   EXPECT_FALSE(IsWindow(doc.mainWindow));
   MSG message{};
   while (GetMessageA(&message, nullptr, 0, 0) > 0) DispatchMessageA(&message);
@@ -180,34 +138,7 @@ TEST_F(MainWindowTest, YesDestroysTheWindowAndEndsTheLoop) {
   EXPECT_EQ(0U, message.wParam);
 }
 
-TEST_F(MainWindowTest, ExitAsksTheSameQuestion) {
-  user.Answer("Corvanta", kCloseQuestion, MB_ICONQUESTION, IDNO);
-  Command(IDM_EXIT);
-  EXPECT_TRUE(IsWindow(doc.mainWindow));
-  user.Answer("Corvanta", kCloseQuestion, MB_ICONQUESTION, IDYES);
-  Command(IDM_EXIT);
-  EXPECT_FALSE(IsWindow(doc.mainWindow));
-}
-
-TEST_F(MainWindowTest, UnknownCommandsDoNothing) {
-  doc.canvas.Fill(1);
-  for (const UINT id : {0U, 1U, 40001U, 40005U, 40046U, 65535U}) Command(id);
-  EXPECT_EQ(1U, CanvasPixel(0, 0));
-}
-
-TEST(StartUpTest, AppDirIsTheProgramsFolder) {
-  char program[MAX_PATH] = "";
-  GetModuleFileNameA(nullptr, program, MAX_PATH);
-  FindAppDir();
-  const std::string path = program, folder = doc.appDir;
-  EXPECT_EQ(path.substr(0, path.rfind('\\') + 1), folder);
-  EXPECT_EQ('\\', folder.back());
-  doc = LoadScreenDoc();
-}
-
-class SecondEditorTest : public EditorFixture {};
-
-TEST_F(SecondEditorTest, ClassThatIsTakenStopsStartUp) {
+TEST_F(MainWindowTest, ClassThatIsTakenStopsStartUp) {
   const HWND first = doc.mainWindow;
   user.Answer("Error", "RegisterClassEx failed!", MB_ICONHAND, IDOK);
   doc.canvas.Free();
@@ -215,6 +146,15 @@ TEST_F(SecondEditorTest, ClassThatIsTakenStopsStartUp) {
   EXPECT_FALSE(Start());
   EXPECT_EQ(first, doc.mainWindow);
   ImageUnInit();
+}
+
+TEST(StartUpTest, AppDirIsTheProgramsFolder) {
+  char program[MAX_PATH] = "";
+  GetModuleFileNameA(nullptr, program, MAX_PATH);
+  FindAppDir();
+  const std::string path = program;
+  EXPECT_EQ(path.substr(0, path.rfind('\\') + 1), doc.appDir);
+  doc = LoadScreenDoc();
 }
 
 }  // namespace

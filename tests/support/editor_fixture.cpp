@@ -102,6 +102,21 @@ std::string EditorFixture::WritePng(const std::string& name, const BitmapClass& 
 
 void EditorFixture::Command(UINT id) { SendMessageA(doc.mainWindow, WM_COMMAND, id, 0); }
 
+void EditorFixture::WithDialog(const std::string& caption, UINT command,
+                               const std::function<void(HWND)>& step) {
+  WithDialog(
+      caption, [this, command] { Command(command); }, step);
+}
+
+void EditorFixture::WithDialog(const std::string& caption, const std::function<void()>& open,
+                               const std::function<void(HWND)>& step) {
+  user.When(caption, [step](HWND dialog) {
+    step(dialog);
+    if (IsWindowVisible(dialog)) Press(dialog, IDCANCEL);
+  });
+  open();
+}
+
 void EditorFixture::Key(int virtualKey) {
   SendMessageA(doc.mainWindow, WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 1);
 }

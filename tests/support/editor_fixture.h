@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "document/load_screen_doc.h"
@@ -44,6 +45,11 @@ class EditorFixture : public testing::Test {
 
   // Chooses a command of the menu.
   void Command(UINT id);
+  // Opens a dialog, by a command of the menu or otherwise, and does the step in it. The dialog is
+  // left by its Cancel or Close button unless the step has ended it.
+  void WithDialog(const std::string& caption, UINT command, const std::function<void(HWND)>& step);
+  void WithDialog(const std::string& caption, const std::function<void()>& open,
+                  const std::function<void(HWND)>& step);
   // Presses a key in the main window.
   void Key(int virtualKey);
   // The left mouse button, at canvas positions.

@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -129,10 +130,13 @@ std::string ExtensionOf(const OPENFILENAMEA& request) {
   return std::string(".") + request.lpstrDefExt;
 }
 
-// Hands the name over. False when it does not fit into the caller's buffer.
+// Hands the name over. False when it does not fit into the caller's buffer, which gets the size
+// that it would need instead.
 bool Deliver(OPENFILENAMEA& request, const std::string& path) {
   if (path.size() >= request.nMaxFile) {
     extendedError = FNERR_BUFFERTOOSMALL;
+    const auto needed = static_cast<WORD>(path.size() + 1);
+    std::memcpy(request.lpstrFile, &needed, sizeof needed);
     return false;
   }
   std::memcpy(request.lpstrFile, path.c_str(), path.size() + 1);
@@ -172,7 +176,7 @@ INT_PTR FileDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) 
       return TRUE;
     case CDM_GETFILEPATH: {
       const std::string path = SelectedPath(dialog);
-      if (path.size() < wParam) std::strcpy(reinterpret_cast<char*>(lParam), path.c_str());
+      std::snprintf(reinterpret_cast<char*>(lParam), wParam, "%s", path.c_str());  // cut to fit
       SetWindowLongPtrA(dialog, DWLP_MSGRESULT, static_cast<LONG_PTR>(path.size() + 1));
       return TRUE;
     }
