@@ -1,195 +1,111 @@
 #include "e2e/editor.h"
 
+#include <gtest/gtest.h>
+
 #include "document/load_screen_doc.h"
-#include "e2e/input.h"
-#include "e2e/results.h"
-#include "e2e/screen.h"
+#include "imaging/memory_dc.h"
 #include "resources/resource.h"
+#include "support/find_window.h"
 #include "support/picture_difference.h"
+#include "support/user.h"
+
+void TapKey(WORD key, int times) {
+  // Without the mark, arrows would be those of the number pad, which lift Shift.
+  const DWORD mark = key >= VK_PRIOR && key <= VK_DOWN ? KEYEVENTF_EXTENDEDKEY : 0;
+  const auto scan = static_cast<BYTE>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+  for (int i = 0; i < times; ++i) {
+    for (const DWORD up : {0, KEYEVENTF_KEYUP}) {
+      keybd_event(static_cast<BYTE>(key), scan, mark | up, 0);
+    }
+  }
+}
 
 namespace {
 
-// The window of a process that the user can work now, of the class and, unless it is empty, the
-// caption.
-struct Search {
-  DWORD process;
-  std::string className, caption;
-  HWND found = nullptr;
-};
+// Wine may tell a program the keys as they were so many milliseconds ago.
+constexpr DWORD kKeysKept = 60;
+// A picture that stays so long shows the last of several keys.
+constexpr DWORD kHandled = 150;
 
-BOOL CALLBACK Compare(HWND window, LPARAM parameter) {
-  Search& search = *reinterpret_cast<Search*>(parameter);
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  if (process != search.process || !IsWindowVisible(window) || !IsWindowEnabled(window)) {
-    return TRUE;
-  }
-  char name[64] = "", text[256] = "";
-  GetClassNameA(window, name, sizeof name);
-  GetWindowTextA(window, text, sizeof text);
-  if (name != search.className) return TRUE;
-  if (!search.caption.empty() && text != search.caption) return TRUE;
-  search.found = window;
-  return FALSE;
+void Mouse(DWORD button) { mouse_event(button, 0, 0, 0, 0); }
+
+void MoveMouse(POINT to) {
+  SetCursorPos(to.x, to.y);
+  // The display's late answer to an earlier move may take the pointer back for a moment; a button
+  // released then is released beside what it pressed.
+  int settled = 0;
+  WaitUntil("the pointer to stay where it was moved", [&] {
+    POINT at{};
+    GetCursorPos(&at);
+    settled = at.x == to.x && at.y == to.y ? settled + 1 : 0;
+    return settled > 2;
+  });
 }
 
-HWND FindTopWindow(Search search) {
-  EnumWindows(Compare, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+void ClickAt(POINT point) {
+  MoveMouse(point);
+  Mouse(MOUSEEVENTF_LEFTDOWN);
+  Mouse(MOUSEEVENTF_LEFTUP);
 }
 
-std::string MenuText(HMENU menu, int position) {
-  char text[128] = "";
-  GetMenuStringA(menu, static_cast<UINT>(position), text, sizeof text, MF_BYPOSITION);
-  return text;
+void BringToFront(HWND window) {
+  WaitUntil("\"" + Text(window) + "\" to come to the front", [&] {
+    if (GetForegroundWindow() == window) return true;
+    SetForegroundWindow(window);
+    return false;
+  });
 }
 
-int MenuPosition(HMENU menu, const std::string& text) {
-  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-    if (MenuText(menu, i) == text) return i;
-  }
-  GiveUp("The menu has no \"" + text + "\".");
-}
-
-// How often the Down key leads from the first item to this one: separators are stepped over.
-int DownKeys(HMENU menu, int position) {
-  int keys = 0;
-  for (int i = 0; i < position; ++i) keys += MenuText(menu, i).empty() ? 0 : 1;
-  return keys;
+// The field's id, and what it lies in, differ between the old and the new file dialogs, but it is
+// the first edit control of both.
+void EnterName(HWND dialog, const std::string& path) {
+  const HWND field = FindChild(dialog, "Edit");
+  if (!field) GiveUp("The file dialog has no field for a name.");
+  Paste(field, path);
 }
 
 }  // namespace
 
-Editor::Editor(const std::string& executable) : executable_(executable) {}
-
-Editor::Editor() : Editor(EditorPath()) {}
-
-Editor::~Editor() {
-  if (IsRunning()) {
-    TerminateProcess(process_.hProcess, 99);
-    WaitForSingleObject(process_.hProcess, 10000);
-  }
-  CloseHandle(process_.hThread);
-  CloseHandle(process_.hProcess);
-  if (resources_) FreeLibrary(resources_);
+void Paste(HWND edit, const std::string& text) {
+  SendMessageA(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  EXPECT_EQ(Text(edit), text);
 }
 
-void Editor::Launch() {
-  resources_ = LoadLibraryExA(executable_.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+Editor::Editor(const std::string& executable) {
   STARTUPINFOA start{};
   start.cb = sizeof start;
-  if (!CreateProcessA(executable_.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+  if (!CreateProcessA(executable.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                       &start, &process_)) {
-    GiveUp("Can't start " + executable_ + ": error " + std::to_string(GetLastError()) + ".");
+    GiveUp("Can't start " + executable + ": error " + std::to_string(GetLastError()) + ".");
   }
 }
 
-void Editor::Start() {
-  Launch();
-  WaitUntil("the main window", [this] {
-    mainWindow_ = FindTopWindow({process_.dwProcessId, "PELMARClass", "Corvanta 1.1"});
-    if (!mainWindow_ && !IsRunning()) GiveUp("The editor ended.");
-    return mainWindow_ != nullptr;
-  });
-  view_ = FindWindowExA(mainWindow_, nullptr, "ViewClass", nullptr);
-  Main().BringToFront();
-  WaitUntil("the first mode text", [this] { return Status(1) == "Current mode: Move small map"; });
-  RECT client{};
-  WaitUntil("the view to get its size",
-            [&] { return GetClientRect(view_, &client) && client.right; });
-  if (client.right <= kPictureWidth || client.bottom <= kPictureHeight) {
-    ShowWindow(mainWindow_, SW_MAXIMIZE);
+Editor::~Editor() {
+  TerminateProcess(process_.hProcess, 99);
+  WaitForSingleObject(process_.hProcess, 10000);
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+}
+
+HWND Editor::Standing(const std::string& className, const std::string& caption) const {
+  for (const HWND window : StandingWindows(process_.dwThreadId)) {
+    if (ClassOf(window) == className && (caption.empty() || Text(window) == caption)) return window;
   }
+  if (!IsRunning()) GiveUp("The editor ended before \"" + caption + "\" came.");
+  return nullptr;
+}
+
+void Editor::WaitForPicture() {
+  WaitUntil("the main window", [this] {
+    main_ = Standing("PELMARClass", "Corvanta 1.1");
+    view_ = main_ ? FindChild(main_, "ViewClass") : nullptr;
+    return view_ != nullptr;
+  });
+  BringToFront(main_);
   WaitUntil("the picture to be drawn", [this] { return CountColours(ShownPicture()) > 100; });
 }
 
-Window Editor::Dialog(const std::string& caption, const std::string& screenName) const {
-  HWND dialog = nullptr;
-  WaitUntil("the dialog \"" + caption + "\" (" + screenName + ")", [&] {
-    dialog = FindTopWindow({process_.dwProcessId, "#32770", caption});
-    if (!dialog && !IsRunning()) GiveUp("The editor ended before \"" + caption + "\" came.");
-    return dialog != nullptr;
-  });
-  const Window window(dialog);
-  window.BringToFront();
-  window.Screenshot(screenName);
-  return window;
-}
-
-void Editor::Menu(const std::string& popup, const std::string& item) const {
-  const HMENU menu = LoadMenuA(resources_, MAKEINTRESOURCEA(IDR_MAIN_MENU));
-  const HMENU items = GetSubMenu(menu, MenuPosition(menu, popup));
-  const UINT command = GetMenuItemID(items, MenuPosition(items, item));
-  DestroyMenu(menu);
-  WaitUntil("the main window to take commands", [this] { return IsWindowEnabled(mainWindow_); });
-  PostMessageA(mainWindow_, WM_COMMAND, command, 0);
-}
-
-void Editor::MenuWithKeys(const std::string& popup, const std::string& item) const {
-  const HMENU menu = LoadMenuA(resources_, MAKEINTRESOURCEA(IDR_MAIN_MENU));
-  const int right = MenuPosition(menu, popup);
-  const HMENU items = GetSubMenu(menu, right);
-  const int down = DownKeys(items, MenuPosition(items, item));
-  DestroyMenu(menu);
-  Main().BringToFront();
-  TapKey(VK_F10);
-  const DWORD thread = GetWindowThreadProcessId(mainWindow_, nullptr);
-  WaitUntil("the menu bar to take keys", [&] {
-    GUITHREADINFO state{};
-    state.cbSize = sizeof state;
-    return GetGUIThreadInfo(thread, &state) && (state.flags & GUI_INMENUMODE) != 0;
-  });
-  for (int i = 0; i < right; ++i) TapKey(VK_RIGHT);
-  TapKey(VK_DOWN);
-  WaitUntil("the menu \"" + popup + "\" to open", [this] {
-    return FindTopWindow({process_.dwProcessId, "#32768", ""}) != nullptr;
-  });
-  for (int i = 0; i < down; ++i) TapKey(VK_DOWN);
-  Main().Screenshot("menu-" + popup);
-  TapKey(VK_RETURN);
-}
-
-std::string Editor::Status(int part) const {
-  const HWND bar = FindWindowExA(mainWindow_, nullptr, STATUSCLASSNAMEA, nullptr);
-  // The bar writes its text where the editor's process can write.
-  char text[256] = "";
-  void* remote =
-      VirtualAllocEx(process_.hProcess, nullptr, sizeof text, MEM_COMMIT, PAGE_READWRITE);
-  SendMessageA(bar, SB_GETTEXTA, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(remote));
-  ReadProcessMemory(process_.hProcess, remote, text, sizeof text - 1, nullptr);
-  VirtualFreeEx(process_.hProcess, remote, 0, MEM_RELEASE);
-  return text;
-}
-
-void Editor::Press(WORD key, std::initializer_list<WORD> held) const {
-  Main().BringToFront();
-  const ImageClass before = ShownPicture();
-  const HeldKeys modifiers(held);
-  TapKey(key);
-  WaitUntil("key " + std::to_string(key) + " to change the picture",
-            [&] { return !Difference(before, ShownPicture()).empty(); });
-}
-
-bool Editor::ViewHasMouse() const {
-  GUITHREADINFO state{};
-  state.cbSize = sizeof state;
-  return GetGUIThreadInfo(GetWindowThreadProcessId(view_, nullptr), &state) &&
-         state.hwndCapture == view_;
-}
-
-void Editor::Grab(POINT from) const {
-  Main().BringToFront();
-  MoveMouse(OnScreen(from));
-  MouseDown();
-  WaitUntil("the view to capture the mouse", [this] { return ViewHasMouse(); });
-}
-
-void Editor::DragTo(POINT to) const { MoveMouse(OnScreen(to)); }
-
-void Editor::Drop() const {
-  MouseUp();
-  WaitUntil("the view to release the mouse", [this] { return !ViewHasMouse(); });
-}
+std::string Editor::Status() const { return Text(FindChild(main_, STATUSCLASSNAMEA)); }
 
 RECT Editor::PictureArea() const {
   const RECT client = ClientArea(view_);
@@ -198,16 +114,114 @@ RECT Editor::PictureArea() const {
   return {left, top, left + kPictureWidth, top + kPictureHeight};
 }
 
-POINT Editor::OnScreen(POINT picture) const {
-  const RECT area = PictureArea();
-  return {area.left + picture.x, area.top + picture.y};
+DIBClass Editor::ShownPicture() const { return CaptureScreen(PictureArea()); }
+
+void Editor::Command(UINT id) const {
+  WaitUntil("the main window to take commands", [this] { return IsWindowEnabled(main_) != 0; });
+  PostMessageA(main_, WM_COMMAND, id, 0);
 }
 
-ImageClass Editor::ShownPicture() const { return CaptureScreen(PictureArea()); }
-
-bool Editor::IsRunning() const {
-  return process_.hProcess && WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
+GUITHREADINFO Editor::State() const {
+  GUITHREADINFO state{};
+  state.cbSize = sizeof state;
+  GetGUIThreadInfo(process_.dwThreadId, &state);
+  return state;
 }
+
+void Editor::FileMenu(int place) const {
+  BringToFront(main_);
+  TapKey(VK_F10);
+  WaitUntil("the menu to take keys", [this] { return (State().flags & GUI_INMENUMODE) != 0; });
+  TapKey(VK_DOWN, place);
+  Screenshot(main_, "menu-File");
+  TapKey(VK_RETURN);
+}
+
+void Editor::Tap(WORD key, int times, std::initializer_list<BYTE> held) const {
+  BringToFront(main_);
+  const DIBClass before = CopyPixels(WindowDc(nullptr).get(), PictureArea());
+  const HoldKeys modifiers(held);
+  Sleep(kKeysKept);
+  TapKey(key, times);
+  WaitUntil("key " + std::to_string(key) + " to change the picture",
+            [&] { return !Difference(before, CaptureScreen(PictureArea(), kHandled)).empty(); });
+}
+
+void Editor::Drag(POINT from, POINT to) const {
+  const RECT picture = PictureArea();
+  BringToFront(main_);
+  MoveMouse({picture.left + from.x, picture.top + from.y});
+  Mouse(MOUSEEVENTF_LEFTDOWN);
+  WaitUntil("the view to capture the mouse", [this] { return State().hwndCapture == view_; });
+  MoveMouse({picture.left + to.x, picture.top + to.y});
+  Mouse(MOUSEEVENTF_LEFTUP);
+  WaitUntil("the view to release the mouse", [this] { return State().hwndCapture != view_; });
+}
+
+HWND Editor::Dialog(const std::string& caption, const std::string& screenName) const {
+  HWND dialog = nullptr;
+  WaitUntil("the dialog \"" + caption + "\" (" + screenName + ")",
+            [&] { return (dialog = Standing("#32770", caption)) != nullptr; });
+  BringToFront(dialog);
+  Screenshot(dialog, screenName);
+  return dialog;
+}
+
+void Editor::Click(HWND dialog, int id) const {
+  const HWND control = GetDlgItem(dialog, id);
+  POINT middle{};
+  // What lies there may be the group box around the control, which lets the click through. A window
+  // that has just come may still be moved to its place.
+  WaitUntil("control " + std::to_string(id) + " of \"" + Text(dialog) + "\" to lie open", [&] {
+    BringToFront(dialog);
+    const RECT area = ClientArea(control);
+    middle = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    return IsWindowEnabled(control) && GetAncestor(WindowFromPoint(middle), GA_ROOT) == dialog;
+  });
+  ClickAt(middle);
+}
+
+void Editor::Close(HWND dialog, int button) const {
+  Click(dialog, button);
+  WaitUntil("a window to close", [dialog] { return !IsWindow(dialog); });
+}
+
+void Editor::Answer(const std::string& caption, const std::string& text, int button,
+                    const std::string& screenName) const {
+  constexpr int kTextOfBox = 0xFFFF;
+  const HWND box = Dialog(caption, screenName);
+  EXPECT_EQ(Text(box, kTextOfBox), text) << "in the box \"" << caption << "\"";
+  Close(box, button);
+}
+
+void Editor::SaveAs(const std::string& path, const std::string& screenName) const {
+  const HWND dialog = Dialog("", screenName);
+  EnterName(dialog, path);
+  Close(dialog, IDOK);
+}
+
+void Editor::OpenPicture(const std::string& path) const {
+  const HWND dialog = Dialog("Choose file to open", "open-empty");
+  EnterName(dialog, path.substr(0, path.rfind('\\')));
+  Click(dialog, IDOK);
+  HWND list = nullptr;
+  WaitUntil("the folder's only file in the list", [&] {
+    list = FindChild(dialog, "SysListView32");
+    return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 1;
+  });
+  // A click beside the only entry gives the list the keyboard.
+  const RECT area = ClientArea(list);
+  ClickAt({area.right - 20, area.bottom - 20});
+  TapKey(VK_HOME);
+  TapKey(VK_SPACE);
+  const HWND preview = GetDlgItem(FindChild(dialog, "#32770"), IDC_OPEN_PREVIEW);
+  WaitUntil("the preview of " + path,
+            [&] { return CountColours(CaptureScreen(ClientArea(preview))) > 100; });
+  Screenshot(dialog, "open-preview");
+  Close(dialog, IDOK);
+}
+
+bool Editor::IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
 
 DWORD Editor::WaitForExit() const {
   WaitUntil("the editor to end", [this] { return !IsRunning(); });

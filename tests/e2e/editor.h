@@ -3,54 +3,67 @@
 #include <initializer_list>
 #include <string>
 
-#include "e2e/window.h"
-#include "imaging/image_class.h"
+#include "e2e/results.h"
 
-// The editor as a process of its own. It is ended at the latest with this object.
+// The editor as a process of its own, worked with the real keyboard and mouse. What waits in vain
+// fails the test. The process is ended at the latest with this object.
+//
+// Controls that neither open nor close a window may also be worked, and everything be read, with
+// support/user.h.
 class Editor {
  public:
-  explicit Editor(const std::string& executable);
-  Editor();
+  explicit Editor(const std::string& executable = EditorPath());
   ~Editor();
   Editor(const Editor&) = delete;
   Editor& operator=(const Editor&) = delete;
 
-  // Starts the process; Start also waits for the main window to show the picture.
-  void Launch();
-  void Start();
+  // Waits for the main window to show the picture; comes before all that works that window.
+  void WaitForPicture();
+  HWND Main() const { return main_; }
+  // The first part of the status bar.
+  std::string Status() const;
+  // The picture as it stands on the screen.
+  DIBClass ShownPicture() const;
 
-  Window Main() const { return Window(mainWindow_); }
-  // The one dialog or message box that takes the user's input now, once it stands; with a caption,
-  // only one of that caption. `screenName` names its screenshot.
-  Window Dialog(const std::string& caption, const std::string& screenName) const;
+  // Chooses a command as the menu would.
+  void Command(UINT id) const;
+  // Chooses the item at that place, from 1, of the menu File with mouse and keyboard.
+  void FileMenu(int place) const;
+  // Presses a key so many times with others held, until the picture has changed and stays.
+  void Tap(WORD key, int times = 1, std::initializer_list<BYTE> held = {}) const;
+  // Drags from one point of the picture to another.
+  void Drag(POINT from, POINT to) const;
 
-  // Chooses a command by the texts in the menu, MenuWithKeys as the keyboard's user does.
-  void Menu(const std::string& popup, const std::string& item) const;
-  void MenuWithKeys(const std::string& popup, const std::string& item) const;
-  // A part of the status bar.
-  std::string Status(int part) const;
-
-  // Presses a key with others held until the picture has changed.
-  void Press(WORD key, std::initializer_list<WORD> held = {}) const;
-  // A drag on the picture, in its own coordinates. What it moves has to be seen at its place before
-  // Drop: the system may deliver the moves late.
-  void Grab(POINT from) const;
-  void DragTo(POINT to) const;
-  void Drop() const;
-  // The picture as it stands on the screen, once it has stopped changing.
-  ImageClass ShownPicture() const;
+  // Waits for a dialog or message box of the caption, or of any, that takes the user's input now.
+  // Its picture is screen-<screenName>.png.
+  HWND Dialog(const std::string& caption, const std::string& screenName) const;
+  // Clicks the middle of a control, once it lies open.
+  void Click(HWND dialog, int id) const;
+  // Clicks a button that closes the dialog.
+  void Close(HWND dialog, int button) const;
+  // Expects a message box with exactly this text and presses the button.
+  void Answer(const std::string& caption, const std::string& text, int button,
+              const std::string& screenName) const;
+  // Saves under the path in the system's dialog.
+  void SaveAs(const std::string& path, const std::string& screenName) const;
+  // Goes to the folder of the picture, which is alone there, in the Open dialog, picks it in the
+  // list, waits for the preview and confirms.
+  void OpenPicture(const std::string& path) const;
 
   bool IsRunning() const;
   DWORD WaitForExit() const;
 
  private:
-  POINT OnScreen(POINT picture) const;
+  HWND Standing(const std::string& className, const std::string& caption) const;
+  GUITHREADINFO State() const;
   RECT PictureArea() const;
-  bool ViewHasMouse() const;
 
-  std::string executable_;
-  HMODULE resources_ = nullptr;  // of the executable: the menu that it really shows
   PROCESS_INFORMATION process_{};
-  HWND mainWindow_ = nullptr;
+  HWND main_ = nullptr;
   HWND view_ = nullptr;
 };
+
+// Presses and releases a key, which goes to the window in front.
+void TapKey(WORD key, int times = 1);
+// Replaces the text of a field that the user would paste to.
+void Paste(HWND edit, const std::string& text);

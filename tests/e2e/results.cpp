@@ -1,66 +1,70 @@
 #include "e2e/results.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 #include <stdexcept>
 
-#include "e2e/screen.h"
-#include "imagelib/imagelib.h"
 #include "imaging/image_files.h"
-#include "platform/win32.h"
+#include "imaging/memory_dc.h"
+#include "support/picture_difference.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// The environment and the folders are in UTF-8, this program's code page. GetEnvironmentVariableA
-// of Wine 8 cuts such a text short: it counts its letters and copies as many bytes.
-std::string Environment(const char* name) {
-  const char* text = std::getenv(name);
-  return text ? text : "";
+constexpr ULONGLONG kPatience = 60000;
+constexpr DWORD kPoll = 10;
+
+RECT WholeScreen() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
+std::string ProgramFolder() {
+  char path[MAX_PATH] = "";
+  GetModuleFileNameA(nullptr, path, MAX_PATH);
+  return std::string(path, std::string(path).rfind('\\') + 1);
 }
 
-std::string FullPath(const std::string& path) {
+// The path that the environment names, in UTF-8, this program's code page. GetEnvironmentVariableA
+// of Wine 8 cuts such a text short: it counts its letters and copies as many bytes.
+std::string PathFromEnvironment(const char* name, const char* besideProgram) {
+  const char* named = std::getenv(name);
+  const std::string path = named && *named ? named : ProgramFolder() + besideProgram;
   char full[MAX_PATH] = "";
   GetFullPathNameA(path.c_str(), MAX_PATH, full, nullptr);
   return full;
 }
 
-std::string ProgramFolder() {
-  char path[MAX_PATH] = "";
-  GetModuleFileNameA(nullptr, path, MAX_PATH);
-  const std::string text = path;
-  return text.substr(0, text.rfind('\\') + 1);
-}
-
-std::string ResultFolder() {
-  std::string folder = Environment("CORVANTA_E2E_DIR");
-  if (folder.empty()) folder = ProgramFolder() + "..\\..\\e2e";
-  folder = FullPath(folder);
-  fs::create_directories(fs::u8path(folder));
-  return folder + "\\";
-}
-
 void StartImageLibrary() {
-  static const bool started = ImageInit() != 0;
+  static const bool started = InitImageFiles();
   if (!started) throw std::runtime_error("ImageLib does not start.");
 }
 
 }  // namespace
 
-std::string EditorPath() {
-  const std::string named = Environment("CORVANTA_E2E_EXE");
-  return named.empty() ? ProgramFolder() + "Corvanta.exe" : FullPath(named);
+void WaitUntil(const std::string& what, const std::function<bool()>& condition) {
+  const ULONGLONG end = GetTickCount64() + kPatience;
+  for (; !condition(); Sleep(kPoll)) {
+    if (GetTickCount64() > end) GiveUp("Waited in vain for " + what + ".");
+  }
 }
 
-std::string EditorFile(const std::string& name) {
-  const std::string path = EditorPath();
-  return path.substr(0, path.rfind('\\') + 1) + name;
+void GiveUp(const std::string& why) {
+  std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+  std::replace(name.begin(), name.end(), '/', '-');
+  name = "failure-" + name + ".png";
+  SaveResult(name, CopyPixels(WindowDc(nullptr).get(), WholeScreen()));
+  throw std::runtime_error(why + "\nThe screen: " + ResultPath(name));
 }
+
+std::string EditorPath() { return PathFromEnvironment("CORVANTA_E2E_EXE", "Corvanta.exe"); }
 
 std::string ResultPath(const std::string& name) {
-  static const std::string folder = ResultFolder();
-  return folder + name;
+  const std::string folder = PathFromEnvironment("CORVANTA_E2E_DIR", "..\\..\\e2e");
+  fs::create_directories(fs::u8path(folder));
+  return folder + "\\" + name;
 }
 
 std::string NewResultPath(const std::string& name) {
@@ -69,8 +73,6 @@ std::string NewResultPath(const std::string& name) {
   return path;
 }
 
-std::string SamplePath(const std::string& name) { return FullPath(CORVANTA_SAMPLES "/" + name); }
-
 ImageClass LoadPicture(const std::string& path) {
   StartImageLibrary();
   ImageClass picture;
@@ -78,8 +80,53 @@ ImageClass LoadPicture(const std::string& path) {
   return picture;
 }
 
-void SaveResult(const std::string& name, const ImageClass& picture) {
+void SaveResult(const std::string& name, const BitmapClass& picture) {
   StartImageLibrary();
-  if (!SaveImageFile(ResultPath(name).c_str(), picture))
-    throw std::runtime_error("Can't save " + ResultPath(name));
+  const std::string path = ResultPath(name);
+  if (!SaveImageFile(path.c_str(), picture)) throw std::runtime_error("Can't save " + path);
+}
+
+DIBClass CopyPixels(HDC source, const RECT& area) {
+  DIBClass copy(area.right - area.left, area.bottom - area.top);
+  const MemoryDc memory(source, copy.bitmap);
+  BitBlt(memory.get(), 0, 0, copy.width, copy.height, source, area.left, area.top, SRCCOPY);
+  GdiFlush();
+  return copy;
+}
+
+DIBClass CaptureScreen(const RECT& area, DWORD settled) {
+  // Nothing at all comes of an area that reaches beyond the screen.
+  RECT visible{};
+  const RECT whole = WholeScreen();
+  IntersectRect(&visible, &area, &whole);
+  const WindowDc screen(nullptr);
+  DIBClass last = CopyPixels(screen.get(), visible);
+  WaitUntil("the screen to stop changing", [&] {
+    Sleep(settled);
+    const DIBClass before = last;
+    last = CopyPixels(screen.get(), visible);
+    return Difference(before, last).empty();
+  });
+  return last;
+}
+
+void Screenshot(HWND window, const std::string& name) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  SaveResult("screen-" + name + ".png", CaptureScreen(area));
+}
+
+RECT ClientArea(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
+  return area;
+}
+
+size_t CountColours(const BitmapClass& picture) {
+  std::set<uint32_t> colours;
+  for (int32_t y = 0; y < picture.height; ++y) {
+    colours.insert(picture.Row(y), picture.Row(y) + picture.width);
+  }
+  return colours.size();
 }

@@ -1,12 +1,10 @@
 // Any session of a user with the running editor, one action after another in whatever window
 // stands: what the document promises holds after each of them, the editor can always be left, and
 // nothing of it remains.
-#include <algorithm>
-#include <filesystem>
+#include <utility>
 
 #include "fuzz/fuzz_target.h"
 #include "fuzz/session_checks.h"
-#include "platform/standin/native_path.h"
 #include "platform/standin/testing.h"
 #include "support/editor_fixture.h"
 #include "support/file_content.h"
@@ -14,20 +12,13 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr size_t kMostActions = 400;
 constexpr size_t kActionsPerPicture = 4;
 constexpr char kOpenCaption[] = "Choose file to open";
 
-constexpr UINT kCommands[] = {
-    IDM_SAVE_AS_SHP,       IDM_SAVE_AS_IMAGE, IDM_EXIT,           IDM_SELECT_ITEM,
-    IDM_DELETE_ITEM,       IDM_UNSELECT_ITEM, IDM_COPY,           IDM_VIEW_TOP_LAYER,
-    IDM_VIEW_BOTTOM_LAYER, IDM_STATUS_BAR,    IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP,
-    IDM_MOVE_TARGET_BOX,   IDM_HELP,          IDM_ABOUT};
 constexpr UINT kDialogs[] = {IDM_ADD_ITEM, IDM_LOAD_SCREEN_SETTINGS, IDM_SCREENSHOT_SETTINGS};
 constexpr UINT kMouseMessages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_MOUSEMOVE,
-                                   WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
+                                   WM_LBUTTONUP};
 // None is a template without which the editor ends itself.
 constexpr const char* kFileNames[] = {"exact.png", "large.png", "wide.png",  "small.png",
                                       "broken",    "missing",   "Templates", "new\\file.bmp",
@@ -38,6 +29,12 @@ constexpr TemplateSizes kSizes[] = {
     {{40, 30}, {10, 7}, {8, 8}, {3, 3}, {20, 20}},
     {{1024, 600}, {300, 1000}, {500, 300}, {300, 400}, {800, 520}},
 };
+constexpr std::pair<const char*, PictureSize> kPictures[] = {
+    {"Templates\\dot.png", {1, 1}},     {"Templates\\star.png", {75, 60}},
+    {"Templates\\line.png", {800, 1}},  {"Templates\\huge.png", {900, 600}},
+    {"Templates\\cameo.png", {76, 60}}, {"exact.png", {234, 232}},
+    {"large.png", {300, 260}},          {"wide.png", {3000, 232}},
+    {"small.png", {233, 500}}};
 constexpr char kSettings[] =
     "[SymbolsList]\r\n1=Dot,dot.png\r\n2=Star,star.png\r\n3=Line,line.png\r\n4=Huge,huge.png\r\n"
     "5=Gone,gone.png\r\n6=Broken,..\\broken\r\n"
@@ -63,21 +60,6 @@ class Choices {
   const uint8_t* next_;
   const uint8_t* end_;
 };
-
-// Windows that the user can work with; labels without a number are none.
-BOOL CALLBACK Collect(HWND window, LPARAM windows) {
-  const bool label =
-      ClassOf(window) == "Static" && static_cast<WORD>(GetDlgCtrlID(window)) == 0xFFFF;
-  if (IsWindowVisible(window) && IsWindowEnabled(window) && !label)
-    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
-  return TRUE;
-}
-
-std::vector<HWND> StandingWindows() {
-  std::vector<HWND> windows;
-  EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows));
-  return windows;
-}
 
 class Session : public EditorFixture {
  public:
@@ -106,50 +88,27 @@ class Session : public EditorFixture {
   void TestBody() override {}
   TemplateSizes Sizes() const override { return kSizes[sizes_]; }
 
-  // The files of an application folder, made once for each set of templates.
-  const TempFolder& Files() {
-    static TempFolder folders[std::size(kSizes)];
-    const TempFolder& folder = folders[sizes_];
-    if (!fs::is_empty(folder.Path())) return folder;
-    fs::create_directory(folder.Path("Templates"));
-    WriteTemplates(folder.Path("Templates"), Sizes());
-    WriteContent(folder.Path("Settings.ini"), kSettings);
-    WriteContent(folder.Path("Templates/readme.txt"), "First line\r\nSecond line\r\n");
-    WriteContent(folder.Path("broken"), "no picture");
-    WriteContent(folder.Path("good.pal"), std::string(768, '?'));
-    const struct {
-      const char* name;
-      int32_t width, height;
-    } pictures[] = {{"Templates\\dot.png", 1, 1},     {"Templates\\star.png", 75, 60},
-                    {"Templates\\line.png", 800, 1},  {"Templates\\huge.png", 900, 600},
-                    {"Templates\\cameo.png", 76, 60}, {"exact.png", 234, 232},
-                    {"large.png", 300, 260},          {"wide.png", 3000, 232},
-                    {"small.png", 233, 500}};
-    for (const auto& picture : pictures) {
-      const std::string path = WritePng(
-          picture.name, MakePicture(picture.width, picture.height, [](int32_t x, int32_t y) {
-            return (x + y) % 5 ? static_cast<uint32_t>(x << 12 ^ y * 77) & 0xFFFFFF : kKeyColour;
-          }));
-      fs::copy_file(standin::NativePath(path.c_str()),
-                    standin::NativePath(folder.Path(picture.name).c_str()));
-    }
-    return folder;
-  }
-
   void SetUp() override {
     sizes_ = static_cast<size_t>(choices_.Below(static_cast<int>(std::size(kSizes))));
-    fs::copy(Files().Path(), File("."),
-             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-    if (choices_.Chance(16)) WriteSettings("[Other]");
+    WriteSettings(choices_.Chance(16) ? "[Other]" : kSettings);
+    WriteContent(File("Templates/readme.txt"), "First line\r\nSecond line\r\n");
+    WriteContent(File("broken"), "no picture");
+    WriteContent(File("good.pal"), std::string(768, '?'));
+    for (const auto& [name, size] : kPictures) {
+      WritePng(name, MakePicture(size.width, size.height, [](int32_t x, int32_t y) {
+                 return (x + y) % 5 ? static_cast<uint32_t>(x << 12 ^ y * 77) & 0xFFFFFF
+                                    : kKeyColour;
+               }));
+    }
     SetCurrentDirectoryA(AppPath(".").c_str());
-    ASSERT_TRUE(Start());
+    EditorFixture::SetUp();
   }
 
   // One action in the window that stands, after a look at what the last one has left.
   void Act() {
     Require(IsWindow(doc.mainWindow), "the editor runs");
     CheckDocument();
-    const std::vector<HWND> standing = StandingWindows();
+    const std::vector<HWND> standing = StandingWindows(GetCurrentThreadId());
     Require(standing.size() <= 1, "one window at a time takes input");
     if (standing.empty()) return;
     if (++actions_ % kActionsPerPicture == 0) CheckComposition(standing[0] == doc.mainWindow);
@@ -188,8 +147,12 @@ class Session : public EditorFixture {
   }
 
   void ChooseCommand() {
-    const UINT command = choices_.Chance(2) ? choices_.From(kDialogs) : choices_.From(kCommands);
-    if (!IsCommandEnabled(command) || (command == IDM_EXIT && !choices_.Chance(8))) return;
+    const HMENU menu = GetMenu(doc.mainWindow);
+    const HMENU popup = GetSubMenu(menu, choices_.Below(GetMenuItemCount(menu)));
+    UINT command = GetMenuItemID(popup, choices_.Below(GetMenuItemCount(popup)));
+    if (choices_.Chance(2)) command = choices_.From(kDialogs);
+    if (!command || !IsCommandEnabled(command)) return;
+    if (command == IDM_EXIT && !choices_.Chance(8)) return;
     if (command == IDM_EXIT) mayEnd_ = true;
     Command(command);
   }
@@ -223,8 +186,7 @@ class Session : public EditorFixture {
   }
 
   void WorkDialog(HWND dialog) {
-    std::vector<HWND> controls;
-    EnumChildWindows(dialog, Collect, reinterpret_cast<LPARAM>(&controls));
+    const std::vector<HWND> controls = ChildWindows(dialog);
     const int action = choices_.Below(16);
     if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) {
       ChooseFile(dialog);
@@ -296,7 +258,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   GTEST_FLAG_SET(throw_on_failure, true);
   const size_t before = standin::LiveGdiObjects();
   Session(Choices(data, size)).Run();
-  Require(StandingWindows().empty(), "no window is left");
+  Require(StandingWindows(GetCurrentThreadId()).empty(), "no window is left");
   Require(OpenClipboard(nullptr) && EmptyClipboard() && CloseClipboard(),
           "nobody holds the clipboard");
   Require(standin::LiveGdiObjects() == before, "no GDI object is left");

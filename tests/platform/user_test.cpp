@@ -61,7 +61,7 @@ TEST(UserTest, GivesUpWhenNobodyEndsTheLoop) {
   testing::TestPartResultArray failures;
   {
     testing::ScopedFakeTestPartResultReporter reporter(&failures);
-    User user;
+    User user(30);
     RunDialog(IDD_SELECT_ITEM);
   }
   ASSERT_EQ(failures.size(), 1);

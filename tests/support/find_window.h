@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "platform/win32.h"
 
@@ -11,17 +11,32 @@ inline std::string ClassOf(HWND window) {
   return name;
 }
 
-// The first visible window of a class at any depth below another, null when there is none.
+// For EnumThreadWindows and EnumChildWindows: adds a window that the user can work with, visible
+// and not blocked by another one, to a vector of windows.
+inline BOOL CALLBACK AddUsable(HWND window, LPARAM windows) {
+  if (IsWindowVisible(window) && IsWindowEnabled(window))
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
+}
+
+// The top-level windows of a thread that the user can work with.
+inline std::vector<HWND> StandingWindows(DWORD thread) {
+  std::vector<HWND> windows;
+  EnumThreadWindows(thread, AddUsable, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+// The windows at any depth below another that the user can work with.
+inline std::vector<HWND> ChildWindows(HWND parent) {
+  std::vector<HWND> windows;
+  EnumChildWindows(parent, AddUsable, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+// The first of them of a class, null when there is none.
 inline HWND FindChild(HWND parent, const std::string& className) {
-  std::pair<std::string, HWND> search = {className, nullptr};
-  EnumChildWindows(
-      parent,
-      [](HWND window, LPARAM param) -> BOOL {
-        auto& wanted = *reinterpret_cast<std::pair<std::string, HWND>*>(param);
-        if (ClassOf(window) != wanted.first || !IsWindowVisible(window)) return TRUE;
-        wanted.second = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.second;
+  for (const HWND window : ChildWindows(parent)) {
+    if (ClassOf(window) == className) return window;
+  }
+  return nullptr;
 }

@@ -3,40 +3,20 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <deque>
 #include <thread>
 
 #include "support/find_window.h"
 
 namespace {
 
-constexpr UINT kTickTime = 10;   // milliseconds
-constexpr int kPatience = 1000;  // ticks without anything happening
+constexpr UINT kTickTime = 10;  // milliseconds
 constexpr int kMostMessages = 10000;
 
-struct Search {
-  std::string caption;
-  HWND found = nullptr;
-  std::string all;
-};
-
-// A window that the user can work with: visible and not blocked by another one.
-HWND Standing(const std::string& caption, std::string* all = nullptr) {
-  Search search{caption, nullptr, ""};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM param) -> BOOL {
-        auto& wanted = *reinterpret_cast<Search*>(param);
-        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-        const std::string text = Text(window);
-        wanted.all += "\n  " + ClassOf(window) + " \"" + text + "\"";
-        if (text != wanted.caption) return TRUE;
-        wanted.found = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  if (all) *all = search.all;
-  return search.found;
+HWND Standing(const std::string& caption) {
+  for (const HWND window : StandingWindows(GetCurrentThreadId())) {
+    if (Text(window) == caption) return window;
+  }
+  return nullptr;
 }
 
 // The control, when the user can reach it.
@@ -52,114 +32,86 @@ HWND Reach(HWND dialog, int id) {
   return nullptr;
 }
 
-// What a message box shows.
-struct BoxContent {
-  std::string text;
-  HICON icon = nullptr;
-};
-
-BoxContent ReadBox(HWND box) {
-  BoxContent content;
-  EnumChildWindows(
-      box,
-      [](HWND child, LPARAM param) -> BOOL {
-        auto& read = *reinterpret_cast<BoxContent*>(param);
-        if (ClassOf(child) != "Static") return TRUE;
-        if (const LRESULT icon = SendMessageA(child, STM_GETICON, 0, 0)) {
-          read.icon = reinterpret_cast<HICON>(icon);
-        } else if (!Text(child).empty()) {
-          read.text = Text(child);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&content));
-  return content;
-}
-
 HICON IconOf(UINT type) {
-  switch (type) {
-    case MB_ICONHAND:
-      return LoadIconA(nullptr, IDI_HAND);
-    case MB_ICONEXCLAMATION:
-      return LoadIconA(nullptr, IDI_EXCLAMATION);
-    case MB_ICONQUESTION:
-      return LoadIconA(nullptr, IDI_QUESTION);
-    default:
-      return nullptr;
-  }
+  const char* const icon = type == MB_ICONHAND          ? IDI_HAND
+                           : type == MB_ICONEXCLAMATION ? IDI_EXCLAMATION
+                           : type == MB_ICONQUESTION    ? IDI_QUESTION
+                                                        : nullptr;
+  return icon ? LoadIconA(nullptr, icon) : nullptr;
 }
 
 bool IsListBox(HWND control) { return ClassOf(control) == "ListBox"; }
 
+LRESULT Count(HWND list) {
+  return SendMessageA(list, IsListBox(list) ? LB_GETCOUNT : CB_GETCOUNT, 0, 0);
+}
+
+// Presses a key that no dialog handles itself.
+void TapInControl(HWND control, WPARAM key) {
+  SendMessageA(control, WM_KEYDOWN, key, 1);
+  SendMessageA(control, WM_KEYUP, key, 1);
+}
+
 }  // namespace
 
-struct User::Script {
-  struct Step {
-    std::string caption;
-    std::function<void(HWND)> action;
-  };
-  std::deque<Step> steps;
-  UINT_PTR timer = 0;
-  int idleTicks = 0;
+User* User::current = nullptr;
 
-  static Script* current;
-
-  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
-    if (current) current->Play();
-  }
-
-  void Play() {
-    const HWND window = steps.empty() ? nullptr : Standing(steps.front().caption);
-    if (window) {
-      idleTicks = 0;
-      const Step step = steps.front();
-      steps.pop_front();
-      step.action(window);
-    } else if (++idleTicks == kPatience) {
-      GiveUp();
-    }
-  }
-
-  void GiveUp() {
-    std::string all;
-    Standing("", &all);
-    ADD_FAILURE() << "The user waits in vain for "
-                  << (steps.empty() ? "the loop to end" : "\"" + steps.front().caption + "\"")
-                  << "; these windows stand:" << all;
-    steps.clear();
-    PostQuitMessage(1);
-  }
-};
-
-User::Script* User::Script::current = nullptr;
-
-User::User() : script_(new Script) {
-  EXPECT_EQ(Script::current, nullptr) << "two users at once";
-  Script::current = script_;
-  script_->timer = SetTimer(nullptr, 0, kTickTime, Script::Tick);
+User::User(int patience) : timer_(SetTimer(nullptr, 0, kTickTime, Tick)), patience_(patience) {
+  EXPECT_EQ(current, nullptr) << "two users at once";
+  current = this;
 }
 
 User::~User() {
-  KillTimer(nullptr, script_->timer);
-  for (const Script::Step& step : script_->steps)
+  KillTimer(nullptr, timer_);
+  for (const Step& step : steps_)
     ADD_FAILURE() << "\"" << step.caption << "\" never stood for its step";
   // After giving up, the message that has ended the loops must not end those of the next test.
   MSG message{};
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
   }
-  Script::current = nullptr;
-  delete script_;
+  current = nullptr;
+}
+
+void User::Tick(HWND, UINT, UINT_PTR, DWORD) {
+  if (!current) return;
+  auto& steps = current->steps_;
+  if (const HWND window = steps.empty() ? nullptr : Standing(steps.front().caption)) {
+    current->idleTicks_ = 0;
+    const Step step = std::move(steps.front());
+    steps.pop_front();
+    step.action(window);
+  } else if (++current->idleTicks_ == current->patience_) {
+    current->GiveUp();
+  }
+}
+
+void User::GiveUp() {
+  std::string all;
+  for (const HWND window : StandingWindows(GetCurrentThreadId()))
+    all += "\n  " + ClassOf(window) + " \"" + Text(window) + "\"";
+  ADD_FAILURE() << "The user waits in vain for "
+                << (steps_.empty() ? "the loop to end" : "\"" + steps_.front().caption + "\"")
+                << "; these windows stand:" << all;
+  steps_.clear();
+  PostQuitMessage(1);
 }
 
 void User::When(const std::string& caption, std::function<void(HWND)> action) {
-  script_->steps.push_back({caption, std::move(action)});
+  steps_.push_back({caption, std::move(action)});
 }
 
 void User::Answer(const std::string& caption, const std::string& text, UINT icon, int button) {
   When(caption, [=](HWND box) {
-    const BoxContent content = ReadBox(box);
-    EXPECT_EQ(content.text, text) << "in the message box \"" << caption << "\"";
-    EXPECT_EQ(content.icon, IconOf(icon)) << "of the message box \"" << caption << "\"";
+    std::string shownText;
+    HICON shownIcon = nullptr;
+    for (const HWND child : ChildWindows(box)) {
+      if (ClassOf(child) != "Static") continue;
+      const LRESULT shown = SendMessageA(child, STM_GETICON, 0, 0);
+      if (shown) shownIcon = reinterpret_cast<HICON>(shown);
+      if (!shown) shownText += Text(child);
+    }
+    EXPECT_EQ(shownText, text) << "in the message box \"" << caption << "\"";
+    EXPECT_EQ(shownIcon, IconOf(icon)) << "of the message box \"" << caption << "\"";
     // The only button of a box may carry the number of Cancel.
     Press(box, button == IDOK && !GetDlgItem(box, IDOK) ? IDCANCEL : button);
   });
@@ -171,8 +123,6 @@ void User::ChooseFile(const std::string& caption, const std::string& path) {
     Press(dialog, IDOK);
   });
 }
-
-size_t User::StepsLeft() const { return script_->steps.size(); }
 
 void Press(HWND dialog, int id) {
   if (const HWND button = Reach(dialog, id)) SendMessageA(button, BM_CLICK, 0, 0);
@@ -190,17 +140,17 @@ void Type(HWND dialog, int id, const std::string& text) {
 void Choose(HWND dialog, int id, int position) {
   const HWND list = Reach(dialog, id);
   if (!list) return;
-  const auto count = static_cast<int>(Items(dialog, id).size());
+  const LRESULT count = Count(list);
   if (position < 0 || position >= count) {
     ADD_FAILURE() << "list " << id << " has no entry " << position;
     return;
   }
   SetFocus(list);
   // From the neighbour it is one key press, and so one notification; a single entry is the first.
-  const UINT select = IsListBox(list) ? LB_SETCURSEL : CB_SETCURSEL;
   const int neighbour = position > 0 ? position - 1 : count > 1 ? 1 : -1;
-  SendMessageA(list, select, static_cast<WPARAM>(neighbour), 0);
-  PressKey(list, position > 0 ? VK_DOWN : count > 1 ? VK_UP : VK_HOME);
+  SendMessageA(list, IsListBox(list) ? LB_SETCURSEL : CB_SETCURSEL, static_cast<WPARAM>(neighbour),
+               0);
+  TapInControl(list, position > 0 ? VK_DOWN : count > 1 ? VK_UP : VK_HOME);
 }
 
 void Slide(HWND dialog, int id, int position) {
@@ -209,7 +159,7 @@ void Slide(HWND dialog, int id, int position) {
   SetFocus(bar);
   const bool first = position <= SendMessageA(bar, TBM_GETRANGEMIN, 0, 0);
   SendMessageA(bar, TBM_SETPOS, TRUE, first ? position + 1 : position - 1);
-  PressKey(bar, first ? VK_LEFT : VK_RIGHT);
+  TapInControl(bar, first ? VK_LEFT : VK_RIGHT);
 }
 
 void PressKey(HWND window, int virtualKey) {
@@ -241,9 +191,10 @@ void SelectFile(HWND fileDialog, const std::string& path) {
 }
 
 std::string Text(HWND window) {
-  std::string text(static_cast<size_t>(GetWindowTextLengthA(window)) + 1, '\0');
-  text.resize(
-      static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+  // Not GetWindowText, which reads no control of another process.
+  std::string text(static_cast<size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
+  text.resize(static_cast<size_t>(
+      SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
   return text;
 }
 
@@ -258,16 +209,12 @@ bool IsChecked(HWND dialog, int id) { return IsDlgButtonChecked(dialog, id) == B
 std::vector<std::string> Items(HWND dialog, int id) {
   const HWND list = GetDlgItem(dialog, id);
   const bool box = IsListBox(list);
-  std::vector<std::string> items;
-  const LRESULT count = SendMessageA(list, box ? LB_GETCOUNT : CB_GETCOUNT, 0, 0);
-  for (LRESULT i = 0; i < count; ++i) {
-    const auto place = static_cast<WPARAM>(i);
-    const LRESULT length = SendMessageA(list, box ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, place, 0);
-    std::string text(static_cast<size_t>(length) + 1, '\0');
-    SendMessageA(list, box ? LB_GETTEXT : CB_GETLBTEXT, place,
-                 reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<size_t>(length));
-    items.push_back(text);
+  std::vector<std::string> items(static_cast<size_t>(Count(list)));
+  for (size_t i = 0; i < items.size(); ++i) {
+    const LRESULT length = SendMessageA(list, box ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i, 0);
+    items[i].resize(static_cast<size_t>(length));
+    SendMessageA(list, box ? LB_GETTEXT : CB_GETLBTEXT, i,
+                 reinterpret_cast<LPARAM>(items[i].data()));
   }
   return items;
 }

@@ -2,6 +2,7 @@
 // loops run. It is written with Win32 calls only and is the same code on both platforms.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -19,12 +20,12 @@
 //
 // Steps run in the order given, each one as soon as its window is there, visible and enabled, and
 // nothing else is to be done. A step may press a button that opens a further window: the next step
-// then runs inside it. When nothing happens for ten seconds of timer ticks, the test fails with the
-// windows that stand, and every loop is ended. The destructor fails the test for steps that never
-// ran.
+// then runs inside it. When nothing happens for as many timer ticks of 10 ms as the user has
+// patience, the test fails with the windows that stand, and every loop is ended. The destructor
+// fails the test for steps that never ran.
 class User {
  public:
-  User();
+  explicit User(int patience = 1000);
   ~User();
   User(const User&) = delete;
   User& operator=(const User&) = delete;
@@ -41,11 +42,22 @@ class User {
   void ChooseFile(const std::string& caption, const std::string& path);
 
   // Steps that have not run yet.
-  size_t StepsLeft() const;
+  size_t StepsLeft() const { return steps_.size(); }
 
  private:
-  struct Script;
-  Script* script_;
+  struct Step {
+    std::string caption;
+    std::function<void(HWND)> action;
+  };
+
+  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD);
+  void GiveUp();
+
+  static User* current;
+  std::deque<Step> steps_;
+  UINT_PTR timer_;
+  int patience_;
+  int idleTicks_ = 0;
 };
 
 // Everything below fails the test, and does nothing, when the control is missing, hidden or
