@@ -1,6 +1,8 @@
 // The stand-in's Win32 constants. They are macros as on Windows, and the Windows build's tests hold
-// each of them against the platform's own value.
+// each of them against the platform's own value. The resource script takes its words from here.
 #pragma once
+
+#ifndef RC_INVOKED
 
 // As on Windows, where these macros come from a system header, their casts are not our warnings.
 #pragma GCC system_header
@@ -8,6 +10,7 @@
 #include <cstddef>
 
 #include "platform/standin/types.h"
+#endif
 
 // Values and words
 #define FALSE 0

@@ -2,7 +2,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/standin/controls.h"
+#include "platform/standin/control.h"
 #include "platform/standin/window.h"
 
 using namespace standin;
@@ -66,12 +66,15 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
   }
 }
 
-LRESULT standin::DefaultControlProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto window = FindWindowPtr(control);
-  if (!window) return 0;
-  if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(window->font);
-  if (message != WM_SETFONT) return DefWindowProcA(control, message, wParam, lParam);
-  window->font = reinterpret_cast<HFONT>(wParam);
-  if (lParam) InvalidateRect(control, nullptr, TRUE);
+void Control::Tell(int code) const {
+  SendMessageA(window_.parent, WM_COMMAND, MAKEWPARAM(static_cast<WORD>(window_.id), code),
+               reinterpret_cast<LPARAM>(window_.handle));
+}
+
+LRESULT Control::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(window_.font);
+  if (message != WM_SETFONT) return DefWindowProcA(window_.handle, message, wParam, lParam);
+  window_.font = reinterpret_cast<HFONT>(wParam);
+  if (lParam) Repaint();
   return 0;
 }

@@ -48,21 +48,19 @@ HFONT MakeFont(const DialogTemplate& dialog) {
   return CreateFontIndirectA(&font);
 }
 
-bool CreateControls(const DialogTemplate& dialog, Window& window) {
+void CreateControls(const DialogTemplate& dialog, Window& window) {
   for (const ControlTemplate& control : dialog.controls) {
     const HWND made = CreateWindowExA(
         control.exStyle | WS_EX_NOPARENTNOTIFY, control.className.c_str(), control.text.c_str(),
         control.style, PixelsX(control.x), PixelsY(control.y), PixelsX(control.width),
         PixelsY(control.height), window.handle,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(control.id)), window.instance, nullptr);
-    if (!made) return false;
     if (window.dialog->font)
       SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(window.dialog->font), FALSE);
     const LRESULT code = SendMessageA(made, WM_GETDLGCODE, 0, 0);
     if ((code & DLGC_DEFPUSHBUTTON) && !window.dialog->defaultButton)
       window.dialog->defaultButton = control.id;
   }
-  return true;
 }
 
 void Initialise(const Window& window, LPARAM param) {
@@ -97,18 +95,14 @@ HWND CreateDialogFromTemplate(const DialogTemplate& dialog, HWND owner, DLGPROC 
       CreateWindowExA(exStyle, kDialogClass, dialog.caption.c_str(), style, frame.left, frame.top,
                       frame.right - frame.left, frame.bottom - frame.top, owner, nullptr,
                       GetModuleHandleA(nullptr), nullptr);
-  const auto window = handle ? FindWindowPtr(handle) : nullptr;
-  if (!window) return nullptr;
+  const auto window = FindWindowPtr(handle);
   window->dialog = std::make_unique<DialogState>();
   window->dialog->proc = proc;
   window->dialog->ownerEnabled = ownerEnabled;
   window->dialog->font = MakeFont(dialog);
   if (window->dialog->font)
     SendMessageA(handle, WM_SETFONT, reinterpret_cast<WPARAM>(window->dialog->font), 0);
-  if (!CreateControls(dialog, *window)) {
-    DestroyWindow(handle);
-    return nullptr;
-  }
+  CreateControls(dialog, *window);
   Initialise(*window, param);
   if (!IsWindow(handle)) return nullptr;
   if ((dialog.style & WS_VISIBLE)) ShowWindow(handle, SW_SHOWNORMAL);

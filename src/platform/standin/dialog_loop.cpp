@@ -1,6 +1,5 @@
 #include "platform/standin/dialog.h"
 #include "platform/standin/failure.h"
-#include "platform/standin/message_queue.h"
 
 namespace standin {
 namespace {

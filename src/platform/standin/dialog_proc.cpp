@@ -21,23 +21,9 @@ void SaveFocus(const WindowPtr& window) {
 // The close box and Alt+F4: the Cancel button decides.
 void CloseByCancel(HWND handle) {
   const HWND cancel = GetDlgItem(handle, IDCANCEL);
-  if (cancel && !IsWindowEnabled(cancel)) {
-    MessageBeep(MB_OK);
-    return;
-  }
+  if (cancel && !IsWindowEnabled(cancel)) return;
   PostMessageA(handle, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
                reinterpret_cast<LPARAM>(cancel));
-}
-
-LRESULT GiveDefaultButton(const Window& window) {
-  if (window.dialog->defaultButton) return MAKELONG(window.dialog->defaultButton, DC_HASDEFID);
-  return 0;
-}
-
-void MoveFocus(const WindowPtr& window, WPARAM wParam, LPARAM lParam) {
-  const HWND target = LOWORD(lParam) ? reinterpret_cast<HWND>(wParam)
-                                     : NextTabStop(*window, GetFocus(), wParam != 0);
-  if (target) FocusControl(target);
 }
 
 // What a dialog does with the messages that its procedure leaves alone.
@@ -65,11 +51,6 @@ LRESULT DefaultOf(const WindowPtr& window, UINT message, WPARAM wParam, LPARAM l
       return 0;
     case WM_SETFOCUS:
       RestoreFocus(window);
-      return 0;
-    case DM_GETDEFID:
-      return GiveDefaultButton(*window);
-    case WM_NEXTDLGCTL:
-      MoveFocus(window, wParam, lParam);
       return 0;
     case WM_CLOSE:
       CloseByCancel(handle);

@@ -105,12 +105,6 @@ void Initialise(HWND dialog, LPARAM param) {
   CreateChild(dialog, state);
 }
 
-void Refuse(HWND dialog, const std::string& path, const char* reason) {
-  char caption[MAX_PATH];
-  GetWindowTextA(dialog, caption, MAX_PATH);
-  MessageBoxA(dialog, (path + "\n" + reason).c_str(), caption, MB_OK | MB_ICONEXCLAMATION);
-}
-
 bool HasExtension(const std::string& path) {
   return path.find('.', FolderPart(path).size()) != std::string::npos;
 }
@@ -154,11 +148,9 @@ void Accept(HWND dialog) {
     SetDlgItemTextA(dialog, cmb13, "");
     return;
   }
-  if (!IsFolder(FolderPart(path))) return Refuse(dialog, path, "Path does not exist.");
   if (!HasExtension(path)) path += ExtensionOf(request);
   const bool exists = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
-  if (state.open && (request.Flags & OFN_FILEMUSTEXIST) && !exists)
-    return Refuse(dialog, path, "File not found.\nCheck the file name and try again.");
+  if (!IsFolder(FolderPart(path)) || (state.open && !exists)) return;
   EndDialog(dialog, Deliver(request, path));
 }
 

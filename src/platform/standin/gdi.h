@@ -35,30 +35,26 @@ class Pixels {
   std::vector<uint32_t> values_;
 };
 
-enum class GdiKind { Bitmap, Font, Brush };
-
 struct GdiObject {
-  explicit GdiObject(GdiKind kind_) : kind(kind_) {}
   virtual ~GdiObject() = default;
-  const GdiKind kind;
   bool stock = false;  // belongs to the system: DeleteObject leaves it alone
 };
 
 struct Bitmap : GdiObject {
   Bitmap(int width, int height, bool bottomUp, bool isSection)
-      : GdiObject(GdiKind::Bitmap), pixels(width, height, bottomUp), section(isSection) {}
+      : pixels(width, height, bottomUp), section(isSection) {}
   Pixels pixels;
   const bool section;
   bool selected = false;  // a bitmap stands in one device context at a time
 };
 
 struct Font : GdiObject {
-  explicit Font(const LOGFONTA& font) : GdiObject(GdiKind::Font), description(font) {}
+  explicit Font(const LOGFONTA& font) : description(font) {}
   const LOGFONTA description;
 };
 
 struct Brush : GdiObject {
-  explicit Brush(COLORREF colour_) : GdiObject(GdiKind::Brush), colour(colour_) {}
+  explicit Brush(COLORREF colour_) : colour(colour_) {}
   const COLORREF colour;
 };
 
@@ -94,8 +90,6 @@ Pixels* TargetOf(DeviceContext& dc);
 uint32_t PixelOf(COLORREF colour);
 COLORREF ColourOf(uint32_t pixel);
 
-// A brush that stays, as the system's own do.
-HBRUSH AddBrush(COLORREF colour);
 // The colour of a brush handle; a small number stands for a system colour plus one.
 COLORREF BrushColour(HBRUSH brush);
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 #include "platform/standin/failure.h"
@@ -22,6 +23,12 @@ int SourceOf(int i, int length, int sourceLength) {
   if (length > sourceLength)
     return static_cast<int>(((2 * place + 1) * sourceLength - 1) / (2 * length));
   return static_cast<int>((2 * (place + 1) * sourceLength + length) / (2 * length) - 1);
+}
+
+void Fill(const DeviceContext& dc, Pixels& target, const RECT& rect, COLORREF colour) {
+  const RECT shown = Visible(dc, target, rect);
+  for (int y = shown.top; y < shown.bottom && shown.left < shown.right; ++y)
+    std::fill(target.Row(y) + shown.left, target.Row(y) + shown.right, PixelOf(colour));
 }
 
 struct Block {
@@ -99,10 +106,7 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
   const auto context = FindDC(dc);
   Pixels* target = context ? TargetOf(*context) : nullptr;
   if (!target) return 0;
-  const uint32_t pixel = PixelOf(BrushColour(brush));
-  const RECT shown = Visible(*context, *target, *rect);
-  for (int y = shown.top; y < shown.bottom && shown.left < shown.right; ++y)
-    std::fill(target->Row(y) + shown.left, target->Row(y) + shown.right, pixel);
+  Fill(*context, *target, *rect, BrushColour(brush));
   return 1;
 }
 
@@ -132,4 +136,32 @@ COLORREF SetTextColor(HDC dc, COLORREF colour) {
 int SetBkMode(HDC dc, int mode) {
   const auto context = FindDC(dc);
   return context ? std::exchange(context->backgroundMode, mode) : 0;
+}
+
+// No letters are drawn: each character but the space is a filled box in its cell, so that place,
+// extent and colour of a text can be seen and tested. A cell is half as wide as the font is high.
+int DrawTextA(HDC dc, LPCSTR text, int, LPRECT rect, UINT format) {
+  if (format & ~static_cast<UINT>(DT_CENTER | DT_VCENTER | DT_SINGLELINE))
+    Unsupported("DrawTextA knows left and centred single lines only");
+  const auto context = FindDC(dc);
+  Pixels* target = context ? TargetOf(*context) : nullptr;
+  if (!target) return 0;
+  if (context->backgroundMode != TRANSPARENT) Unsupported("DrawTextA paints no background");
+  const int height = std::max(4, std::abs(context->font->description.lfHeight));
+  const int cell = height / 2;
+  LONG x = rect->left;
+  LONG y = rect->top;
+  if (format & DT_CENTER)
+    x += (rect->right - rect->left - static_cast<int>(std::strlen(text)) * cell) / 2;
+  if (format & DT_VCENTER) y += (rect->bottom - rect->top - height) / 2;
+  const auto within = [&](RECT box) -> RECT {
+    return {std::max(box.left, rect->left), std::max(box.top, rect->top),
+            std::min(box.right, rect->right), std::min(box.bottom, rect->bottom)};
+  };
+  for (; *text; ++text, x += cell) {
+    if (*text != ' ')
+      Fill(*context, *target, within({x, y + height / 4, x + cell - 1, y + height - 1}),
+           context->textColour);
+  }
+  return height;
 }

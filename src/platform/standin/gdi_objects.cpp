@@ -1,4 +1,5 @@
 #include <cstring>
+#include <map>
 #include <new>
 #include <utility>
 
@@ -20,24 +21,20 @@ HandleTable<DeviceContext>& Contexts() {
   return *contexts;
 }
 
+// Belongs to the system: it is not counted, and DeleteObject leaves it alone.
+HGDIOBJ AddStock(const std::shared_ptr<GdiObject>& object) {
+  object->stock = true;
+  return Objects().Add<HGDIOBJ>(object);
+}
+
 // What a fresh memory device context holds: a bitmap of one pixel and the system font.
 HGDIOBJ StockFont() {
-  static const HGDIOBJ font = [] {
-    LOGFONTA description{};
-    description.lfHeight = 16;
-    auto object = std::make_shared<Font>(description);
-    object->stock = true;
-    return Objects().Add<HGDIOBJ>(object);
-  }();
+  static const HGDIOBJ font = AddStock(std::make_shared<Font>(LOGFONTA{}));
   return font;
 }
 
 HGDIOBJ StockBitmap() {
-  static const HGDIOBJ bitmap = [] {
-    auto object = std::make_shared<Bitmap>(1, 1, false, false);
-    object->stock = true;
-    return Objects().Add<HGDIOBJ>(object);
-  }();
+  static const HGDIOBJ bitmap = AddStock(std::make_shared<Bitmap>(1, 1, false, false));
   return bitmap;
 }
 
@@ -60,11 +57,7 @@ HBITMAP AddBitmap(int width, int height, bool bottomUp, bool section) try {
 
 }  // namespace
 
-std::shared_ptr<DeviceContext> FindDC(HDC dc) {
-  auto context = Contexts().Find(dc);
-  if (!context) SetLastError(ERROR_INVALID_HANDLE);
-  return context;
-}
+std::shared_ptr<DeviceContext> FindDC(HDC dc) { return Contexts().Find(dc); }
 
 std::shared_ptr<GdiObject> FindGdiObject(const void* handle) { return Objects().Find(handle); }
 
@@ -89,10 +82,12 @@ size_t LiveGdiObjects() {
   return count;
 }
 
-HBRUSH AddBrush(COLORREF colour) {
-  auto brush = std::make_shared<Brush>(colour);
-  brush->stock = true;
-  return Objects().Add<HBRUSH>(brush);
+COLORREF BrushColour(HBRUSH brush) {
+  const auto index = reinterpret_cast<uintptr_t>(brush);
+  if (index > 0 && index <= 31) return GetSysColor(static_cast<int>(index) - 1);
+  const auto found = FindGdi<Brush>(brush);
+  if (!found) Unsupported("brushes have the colours of the system");
+  return found->colour;
 }
 
 }  // namespace standin
@@ -150,10 +145,7 @@ HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits
   *bits = nullptr;
   if (dc && !FindDC(dc)) return nullptr;
   const int height = header.biHeight < 0 ? -header.biHeight : header.biHeight;
-  if (!FitsInMemory(header.biWidth, height)) {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return nullptr;
-  }
+  if (!FitsInMemory(header.biWidth, height)) return nullptr;
   const HBITMAP bitmap = AddBitmap(header.biWidth, height, header.biHeight > 0, true);
   if (bitmap) *bits = FindGdi<Bitmap>(bitmap)->pixels.Data();
   return bitmap;
@@ -176,15 +168,15 @@ HFONT CreateFontA(int height, int width, int escapement, int orientation, int we
                 escapement,
                 orientation,
                 weight,
-                static_cast<BYTE>(italic),
-                static_cast<BYTE>(underline),
-                static_cast<BYTE>(strikeOut),
-                static_cast<BYTE>(charSet),
-                static_cast<BYTE>(outPrecision),
-                static_cast<BYTE>(clipPrecision),
-                static_cast<BYTE>(quality),
-                static_cast<BYTE>(pitchAndFamily),
-                {}};
+                BYTE(italic),
+                BYTE(underline),
+                BYTE(strikeOut),
+                BYTE(charSet),
+                BYTE(outPrecision),
+                BYTE(clipPrecision),
+                BYTE(quality),
+                BYTE(pitchAndFamily),
+                ""};
   if (faceName) std::strncpy(font.lfFaceName, faceName, LF_FACESIZE - 1);
   return CreateFontIndirectA(&font);
 }
@@ -198,13 +190,28 @@ int GetObjectA(HANDLE object, int size, LPVOID buffer) {
   const auto bitmap = FindGdi<Bitmap>(object);
   if (!bitmap || room != sizeof(BITMAP)) return 0;
   Pixels& pixels = bitmap->pixels;
-  const BITMAP description{0,
-                           pixels.Width(),
-                           pixels.Height(),
-                           pixels.Width() * 4,
-                           1,
-                           32,
-                           bitmap->section ? pixels.Data() : nullptr};
+  LPVOID const bits = bitmap->section ? pixels.Data() : nullptr;
+  const BITMAP description{0, pixels.Width(), pixels.Height(), pixels.Width() * 4, 1, 32, bits};
   std::memcpy(buffer, &description, sizeof description);
   return sizeof description;
+}
+
+DWORD GetSysColor(int index) {
+  switch (index) {
+    case COLOR_WINDOW:
+      return RGB(255, 255, 255);
+    case COLOR_WINDOWTEXT:
+      return RGB(0, 0, 0);
+    case COLOR_BTNFACE:
+      return RGB(240, 240, 240);
+    default:
+      Unsupported("system colour " + std::to_string(index));
+  }
+}
+
+HBRUSH GetSysColorBrush(int index) {
+  static auto* brushes = new std::map<int, HGDIOBJ>;
+  HGDIOBJ& brush = (*brushes)[index];
+  if (!brush) brush = AddStock(std::make_shared<Brush>(GetSysColor(index)));
+  return static_cast<HBRUSH>(brush);
 }

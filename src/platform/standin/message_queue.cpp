@@ -1,5 +1,3 @@
-#include "platform/standin/message_queue.h"
-
 #include <algorithm>
 #include <deque>
 #include <optional>

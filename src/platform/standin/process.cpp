@@ -1,40 +1,37 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 
 #include "platform/standin/failure.h"
-#include "platform/standin/native_path.h"
-#include "platform/win32.h"
 
 namespace {
 
 DWORD lastError = ERROR_SUCCESS;
 
-// Kept for good: the editor's global objects may still ask after main has returned.
-std::string& ModulePath() {
-  static auto* path = new std::string(std::filesystem::read_symlink("/proc/self/exe").string());
-  return *path;
-}
-
-std::string WithBackslashes(std::string path) {
-  for (char& letter : path) {
-    if (letter == '/') letter = '\\';
-  }
-  return path;
+// As Win32 calls give paths out: the length, or the room needed when there is too little.
+DWORD CopyPath(std::string path, LPSTR buffer, DWORD size) {
+  std::replace(path.begin(), path.end(), '/', '\\');
+  if (path.size() >= size) return static_cast<DWORD>(path.size() + 1);
+  std::memcpy(buffer, path.c_str(), path.size() + 1);
+  return static_cast<DWORD>(path.size());
 }
 
 }  // namespace
 
 namespace standin {
 
+void Unsupported(const std::string& what) {
+  std::fprintf(stderr, "Stand-in platform: %s\n", what.c_str());
+  std::abort();
+}
+
 std::string NativePath(const char* path) {
   std::string native = path;
-  for (char& letter : native) {
-    if (letter == '\\') letter = '/';
-  }
+  std::replace(native.begin(), native.end(), '\\', '/');
   return native;
 }
 
@@ -58,32 +55,17 @@ HMODULE GetModuleHandleA(LPCSTR name) {
   return &program;
 }
 
-DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
-  if (module && module != GetModuleHandleA(nullptr)) {
-    SetLastError(ERROR_MOD_NOT_FOUND);
-    return 0;
-  }
-  const std::string path = WithBackslashes(ModulePath());
-  if (path.size() >= size) {
-    std::snprintf(buffer, size, "%s", path.c_str());
-    SetLastError(ERROR_INSUFFICIENT_BUFFER);
-    return size;
-  }
-  std::memcpy(buffer, path.c_str(), path.size() + 1);
-  return static_cast<DWORD>(path.size());
+DWORD GetModuleFileNameA(HMODULE, LPSTR buffer, DWORD size) {
+  // Kept for good: the editor's global objects may still ask after main has returned.
+  static const auto* path = new std::string(std::filesystem::read_symlink("/proc/self/exe"));
+  if (path->size() >= size) standin::Unsupported("the program's path is too long for its buffer");
+  return CopyPath(*path, buffer, size);
 }
 
-BOOL SetCurrentDirectoryA(LPCSTR path) {
-  if (chdir(standin::NativePath(path).c_str()) == 0) return TRUE;
-  SetLastError(ERROR_FILE_NOT_FOUND);
-  return FALSE;
-}
+BOOL SetCurrentDirectoryA(LPCSTR path) { return chdir(standin::NativePath(path).c_str()) == 0; }
 
 DWORD GetCurrentDirectoryA(DWORD size, LPSTR buffer) {
-  const std::string path = WithBackslashes(std::filesystem::current_path().string());
-  if (path.size() >= size) return static_cast<DWORD>(path.size() + 1);
-  std::memcpy(buffer, path.c_str(), path.size() + 1);
-  return static_cast<DWORD>(path.size());
+  return CopyPath(std::filesystem::current_path().string(), buffer, size);
 }
 
 LPSTR lstrcpyA(LPSTR target, LPCSTR source) { return std::strcpy(target, source); }

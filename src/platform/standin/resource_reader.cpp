@@ -55,11 +55,6 @@ class Reader {
     if (!Accept(text)) Fail(scanner_.Current());
   }
 
-  void Begin() {
-    if (!Accept("{")) Expect("BEGIN");
-  }
-  bool AtEnd() { return Accept("}") || Accept("END"); }
-
   std::string Text() {
     if (scanner_.Current().kind != Token::Kind::Text) Fail(scanner_.Current());
     return scanner_.Take().text;
@@ -68,10 +63,8 @@ class Reader {
   DWORD Term() {
     if (Accept("-")) return static_cast<DWORD>(-static_cast<int>(Term()));
     const Token token = scanner_.Take();
-    if (token.kind == Token::Kind::Number) return static_cast<DWORD>(token.number);
-    DWORD value = 0;
-    if (token.kind != Token::Kind::Word || !FindResourceWord(token.text, value)) Fail(token);
-    return value;
+    if (token.kind != Token::Kind::Number) Fail(token);
+    return static_cast<DWORD>(token.number);
   }
 
   int Number() { return static_cast<int>(Term()); }
@@ -120,25 +113,18 @@ class Reader {
     }
   }
 
+  // Up to the END of the outermost block.
   void SkipVersion() {
-    while (!IsAt("BEGIN") && !IsAt("{")) {
-      if (scanner_.Take().kind == Token::Kind::End) Fail(scanner_.Current());
+    for (int depth = 0, blocks = 0; depth > 0 || blocks == 0; scanner_.Take()) {
+      if (scanner_.Current().kind == Token::Kind::End) Fail(scanner_.Current());
+      if (IsAt("BEGIN")) ++depth, ++blocks;
+      if (IsAt("END")) --depth;
     }
-    int depth = 0;
-    do {
-      if (Accept("BEGIN") || Accept("{")) {
-        ++depth;
-      } else if (AtEnd()) {
-        --depth;
-      } else if (scanner_.Take().kind == Token::Kind::End) {
-        Fail(scanner_.Current());
-      }
-    } while (depth > 0);
   }
 
   std::vector<MenuItemTemplate> ReadMenu() {
     std::vector<MenuItemTemplate> items;
-    for (Begin(); !AtEnd();) {
+    for (Expect("BEGIN"); !Accept("END");) {
       MenuItemTemplate item;
       if (Accept("POPUP")) {
         item.text = Text();
@@ -161,11 +147,9 @@ class Reader {
   DialogTemplate ReadDialog() {
     DialogTemplate dialog;
     Place(dialog);
-    while (!IsAt("BEGIN") && !IsAt("{")) {
+    while (!IsAt("BEGIN")) {
       if (Accept("STYLE")) {
         dialog.style = Style(0);
-      } else if (Accept("EXSTYLE")) {
-        dialog.exStyle = Style(0);
       } else if (Accept("CAPTION")) {
         dialog.caption = Text();
       } else {
@@ -176,7 +160,7 @@ class Reader {
         dialog.style |= DS_SETFONT;
       }
     }
-    for (Begin(); !AtEnd();) dialog.controls.push_back(ReadControl());
+    for (Expect("BEGIN"); !Accept("END");) dialog.controls.push_back(ReadControl());
     return dialog;
   }
 

@@ -56,7 +56,8 @@ const Resources& ProgramResources();
 // The number behind MAKEINTRESOURCEA; names spelled out are not covered.
 int ResourceNumber(LPCSTR name);
 
-// The value of a word such as WS_CHILD, or false.
-bool FindResourceWord(const std::string& word, DWORD& value);
+// A menu made from a resource number, or null for none.
+HMENU CreateMenuFromResource(LPCSTR name);
+void FreeMenu(HMENU menu);
 
 }  // namespace standin

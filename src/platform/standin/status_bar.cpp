@@ -1,81 +1,85 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/standin/controls.h"
-#include "platform/standin/window.h"
+#include "platform/standin/control.h"
 
 namespace standin {
 namespace {
 
 constexpr int kHeight = 22;
-constexpr size_t kMostParts = 256;
 
-struct Part {
-  int right = -1;  // -1: up to the bar's end
-  std::string text;
-};
-struct StatusBarState : ControlState {
-  std::vector<Part> parts{1};
+class StatusBar : public Control {
+ public:
+  using Control::Control;
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  struct Part {
+    int right;  // -1: up to the bar's end
+    std::string text;
+  };
+
+  void Place() const;
+  LRESULT SetParts(size_t count, const int* rights);
+  LRESULT GetParts(size_t count, int* rights) const;
+  LRESULT HandleText(UINT message, size_t part, LPARAM text);
+
+  std::vector<Part> parts_{{-1, ""}};
 };
 
 // The bar lays itself along the bottom of its parent's client area.
-void Place(Window& bar) {
+void StatusBar::Place() const {
   RECT parent{};
-  if (!GetClientRect(bar.parent, &parent)) return;
-  MoveWindow(bar.handle, 0, parent.bottom - kHeight, parent.right, kHeight, TRUE);
+  if (!GetClientRect(window_.parent, &parent)) return;
+  MoveWindow(window_.handle, 0, parent.bottom - kHeight, parent.right, kHeight, TRUE);
 }
 
-LRESULT SetParts(StatusBarState& state, size_t count, const int* rights) {
-  if (count == 0 || count > kMostParts) return FALSE;
-  state.parts.resize(count);
-  for (size_t i = 0; i < count; ++i) state.parts[i].right = rights[i];
+LRESULT StatusBar::SetParts(size_t count, const int* rights) {
+  parts_.resize(count);
+  for (size_t i = 0; i < count; ++i) parts_[i].right = rights[i];
   return TRUE;
 }
 
-LRESULT GetParts(const StatusBarState& state, size_t count, int* rights) {
-  for (size_t i = 0; rights && i < std::min(count, state.parts.size()); ++i)
-    rights[i] = state.parts[i].right;
-  return static_cast<LRESULT>(state.parts.size());
+LRESULT StatusBar::GetParts(size_t count, int* rights) const {
+  for (size_t i = 0; i < std::min(count, parts_.size()); ++i) rights[i] = parts_[i].right;
+  return static_cast<LRESULT>(parts_.size());
 }
 
-LRESULT SetPartText(Window& bar, size_t part, const char* text) {
-  auto& parts = StateOf<StatusBarState>(bar).parts;
-  if (part >= parts.size()) return FALSE;
-  parts[part].text = text ? text : "";
-  InvalidateRect(bar.handle, nullptr, TRUE);
-  return TRUE;
+LRESULT StatusBar::HandleText(UINT message, size_t part, LPARAM text) {
+  if (part >= parts_.size()) return FALSE;
+  std::string& kept = parts_[part].text;
+  if (message == SB_SETTEXTA) {
+    kept = reinterpret_cast<const char*>(text);
+    Repaint();
+    return TRUE;
+  }
+  std::strcpy(reinterpret_cast<char*>(text), kept.c_str());
+  return static_cast<LRESULT>(kept.size());
 }
 
-LRESULT GetPartText(const StatusBarState& state, size_t part, char* buffer) {
-  if (part >= state.parts.size()) return 0;
-  const std::string& text = state.parts[part].text;
-  std::strcpy(buffer, text.c_str());
-  return static_cast<LRESULT>(text.size());
+LRESULT StatusBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CREATE:
+    case WM_SIZE:
+      // Its own placing comes back here and finds nothing to change.
+      Place();
+      return 0;
+    case SB_SETPARTS:
+      return SetParts(wParam, reinterpret_cast<const int*>(lParam));
+    case SB_GETPARTS:
+      return GetParts(wParam, reinterpret_cast<int*>(lParam));
+    case SB_SETTEXTA:
+    case SB_GETTEXTA:
+      return HandleText(message, wParam, lParam);
+    default:
+      return Control::Handle(message, wParam, lParam);
+  }
 }
 
 }  // namespace
 
 LRESULT StatusBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto bar = FindWindowPtr(handle);
-  if (!bar) return 0;
-  StatusBarState& state = StateOf<StatusBarState>(*bar);
-  switch (message) {
-    case WM_CREATE:
-    case WM_SIZE:
-      // Its own placing comes back here and finds nothing to change.
-      Place(*bar);
-      return 0;
-    case SB_SETPARTS:
-      return SetParts(state, wParam, reinterpret_cast<const int*>(lParam));
-    case SB_GETPARTS:
-      return GetParts(state, wParam, reinterpret_cast<int*>(lParam));
-    case SB_SETTEXTA:
-      return SetPartText(*bar, wParam, reinterpret_cast<const char*>(lParam));
-    case SB_GETTEXTA:
-      return GetPartText(state, wParam, reinterpret_cast<char*>(lParam));
-    default:
-      return DefaultControlProc(handle, message, wParam, lParam);
-  }
+  return ControlProc<StatusBar>(handle, message, wParam, lParam);
 }
 
 }  // namespace standin

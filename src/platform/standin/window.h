@@ -1,6 +1,7 @@
 // What stands behind a window handle, and what the stand-in's own files do with windows.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,10 +19,7 @@ struct WindowClass {
   LPCSTR menu = nullptr;  // a resource number, or null
 };
 
-// What a control keeps besides its window.
-struct ControlState {
-  virtual ~ControlState() = default;
-};
+class Control;
 
 // What a dialog keeps besides its window.
 struct DialogState {
@@ -66,9 +64,10 @@ struct Window {
   RECT update{};  // what is to be painted, in client coordinates
   bool erase = false;
   std::optional<Pixels> pixels;
-  std::optional<ScrollBar> scrollBars[2];
+  ScrollBar scrollBars[2];
 
-  std::unique_ptr<ControlState> control;
+  std::shared_ptr<Control> control;
+  std::function<bool(WPARAM key)> keyFilter;  // takes keys from the control; true: taken
   std::unique_ptr<DialogState> dialog;
   bool destroying = false;
 
@@ -87,6 +86,9 @@ std::vector<HWND>& TopLevelWindows();
 
 // The windows among which this one stands: its parent's children or the top-level windows.
 std::vector<HWND>& SiblingsOf(const Window& window);
+
+// The controls from one with WS_GROUP up to the next such one among which this one stands.
+std::vector<HWND> GroupOf(const Window& control);
 
 // The top-level window above the window, itself perhaps.
 WindowPtr RootOf(HWND window);
@@ -124,14 +126,11 @@ void Activate(HWND window);
 // Lets go of whatever points at a window that is hidden, disabled or destroyed.
 void ForgetWindow(HWND window);
 
-// Tells the parent about a control: WM_COMMAND with the control's id and the code.
-void NotifyParent(const Window& control, int code);
-
-// The control's state, made at the first call.
-template <class State>
-State& StateOf(Window& window) {
-  if (!window.control) window.control = std::make_unique<State>();
-  return static_cast<State&>(*window.control);
-}
+// Takes the next message, without waiting: posted ones first, then WM_QUIT, WM_PAINT and timers.
+bool TakeMessage(MSG& message);
+// Drops what is posted to a window and its timers.
+void ForgetMessages(HWND window);
+// Lets the thread's clock, which runs only while the program waits, go on.
+void PassTime(DWORD milliseconds);
 
 }  // namespace standin

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "platform/standin/failure.h"
 #include "platform/standin/handles.h"
-#include "platform/standin/menu.h"
-#include "platform/standin/message_queue.h"
+#include "platform/standin/resources.h"
 #include "platform/standin/window.h"
 
 namespace standin {
@@ -64,25 +64,16 @@ void Free(HWND handle) {
   Windows().Remove(handle);
 }
 
-// Sends the messages of a window's birth. False when the window refused.
-bool SendCreation(const WindowPtr& window, CREATESTRUCTA& creation) {
+// Sends the messages of a window's birth.
+void SendCreation(const WindowPtr& window, CREATESTRUCTA& creation) {
   const auto param = reinterpret_cast<LPARAM>(&creation);
-  const HWND handle = window->handle;
-  if (!SendMessageA(handle, WM_NCCREATE, 0, param)) {
-    Free(handle);
-    return false;
-  }
+  if (!SendMessageA(window->handle, WM_NCCREATE, 0, param))
+    Unsupported("a window of class " + window->windowClass->name + " that refuses to be made");
   UpdateClient(*window);
-  if (SendMessageA(handle, WM_CREATE, 0, param) == -1) {
-    Free(handle);
-    return false;
-  }
-  if (!IsWindow(handle)) return false;
-  if (!window->needsSize) {
-    SendSize(*window);
-    SendMove(*window);
-  }
-  return IsWindow(handle);
+  SendMessageA(window->handle, WM_CREATE, 0, param);
+  if (window->needsSize) return;
+  SendSize(*window);
+  SendMove(*window);
 }
 
 }  // namespace
@@ -110,16 +101,11 @@ using namespace standin;
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
                      int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
                      LPVOID param) {
-  const auto windowClass = className ? FindClass(className) : nullptr;
-  if (!windowClass) {
-    SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-    return nullptr;
-  }
+  const auto windowClass = FindClass(className);
+  if (!windowClass) Unsupported("no window class of that name");
   const auto parentWindow = parent ? FindWindowPtr(parent) : nullptr;
-  if ((parent || (style & WS_CHILD)) && !parentWindow) {
-    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-    return nullptr;
-  }
+  if ((parent || (style & WS_CHILD)) && !parentWindow)
+    Unsupported("a window whose parent has gone");
   auto window = std::make_shared<Window>();
   window->handle = Windows().Add<HWND>(window);
   window->windowClass = windowClass;
@@ -145,19 +131,10 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
   ConstrainCreation(*window);
   UpdateClient(*window);
   Link(*window);
-  CREATESTRUCTA creation{param,
-                         instance,
-                         menu,
-                         parent,
-                         height,
-                         width,
-                         y,
-                         x,
-                         static_cast<LONG>(style),
-                         text,
-                         windowClass->name.c_str(),
-                         exStyle};
-  if (!SendCreation(window, creation)) return nullptr;
+  LPCSTR const name = windowClass->name.c_str();
+  CREATESTRUCTA creation{param, instance, menu,        parent, height, width,
+                         y,     x,        LONG(style), text,   name,   exStyle};
+  SendCreation(window, creation);
   const HWND handle = window->handle;
   if (style & WS_VISIBLE) ShowWindow(handle, SW_SHOW);
   return IsWindow(handle) ? handle : nullptr;

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "platform/standin/failure.h"
-#include "platform/standin/message_queue.h"
 #include "platform/standin/window.h"
 
 namespace standin {

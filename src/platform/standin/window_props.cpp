@@ -20,10 +20,13 @@ bool IsInside(HWND ancestor, HWND handle) {
   return false;
 }
 
-void NotifyParent(const Window& control, int code) {
-  SendMessageA(control.parent, WM_COMMAND,
-               MAKEWPARAM(static_cast<WORD>(control.id), static_cast<WORD>(code)),
-               reinterpret_cast<LPARAM>(control.handle));
+std::vector<HWND> GroupOf(const Window& control) {
+  const auto& all = SiblingsOf(control);
+  const auto starts = [](HWND window) { return GetWindowLongPtrA(window, GWL_STYLE) & WS_GROUP; };
+  auto first = std::find(all.begin(), all.end(), control.handle);
+  const auto end = std::find_if(first + 1, all.end(), starts);
+  while (first != all.begin() && !starts(*first)) --first;
+  return {first, end};
 }
 
 namespace {

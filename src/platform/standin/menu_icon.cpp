@@ -1,8 +1,8 @@
-#include "platform/standin/menu.h"
-
+// Menus and icons, which come from the resource script.
 #include <cstdio>
 #include <vector>
 
+#include "platform/standin/failure.h"
 #include "platform/standin/handles.h"
 #include "platform/standin/resources.h"
 
@@ -24,11 +24,7 @@ HandleTable<Menu>& Menus() {
   return *menus;
 }
 
-std::shared_ptr<Menu> FindMenu(HMENU menu) {
-  auto found = Menus().Find(menu);
-  if (!found) SetLastError(ERROR_INVALID_MENU_HANDLE);
-  return found;
-}
+std::shared_ptr<Menu> FindMenu(HMENU menu) { return Menus().Find(menu); }
 
 HMENU Build(const std::vector<MenuItemTemplate>& items) {
   auto menu = std::make_shared<Menu>();
@@ -51,6 +47,14 @@ MenuItem* FindItem(HMENU menu, UINT item, UINT flags) {
     }
   }
   return nullptr;
+}
+
+// Pictures are never drawn; a handle says which one is meant, and is the same at every call.
+HICON HandleOf(HINSTANCE instance, int id) {
+  static auto* handles = new std::map<std::pair<HINSTANCE, int>, HICON>;
+  HICON& handle = (*handles)[{instance, id}];
+  if (!handle) handle = reinterpret_cast<HICON>(NextHandle());
+  return handle;
 }
 
 // Changes the bits of an item's state. Gives the bits before, or -1 without such an item.
@@ -99,9 +103,8 @@ UINT GetMenuItemID(HMENU menu, int position) {
 
 UINT GetMenuState(HMENU menu, UINT item, UINT flags) {
   const MenuItem* found = FindItem(menu, item, flags);
-  if (!found) return static_cast<UINT>(-1);
-  if (!found->popup) return found->flags;
-  return (static_cast<UINT>(GetMenuItemCount(found->popup)) << 8) | (found->flags & 0xFF);
+  if (found && found->popup) Unsupported("menus have no state");
+  return found ? found->flags : static_cast<UINT>(-1);
 }
 
 int GetMenuStringA(HMENU menu, UINT item, LPSTR buffer, int size, UINT flags) {
@@ -131,4 +134,15 @@ BOOL CheckMenuRadioItem(HMENU menu, UINT first, UINT last, UINT check, UINT flag
     checked = true;
   }
   return checked;
+}
+
+HICON LoadIconA(HINSTANCE instance, LPCSTR name) {
+  const int id = ResourceNumber(name);
+  if (instance && !ProgramResources().icons.count(id)) Unsupported("no icon " + std::to_string(id));
+  return HandleOf(instance, id);
+}
+
+HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) {
+  if (instance) Unsupported("cursors are the system's");
+  return HandleOf(nullptr, -ResourceNumber(name));
 }
