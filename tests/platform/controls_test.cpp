@@ -5,13 +5,11 @@
 
 namespace {
 
-using Lines = std::vector<std::string>;
-
 // A window with one control of the class under test, number 100, and a log of what it tells its
 // parent.
 class Controls : public testing::Test {
  protected:
-  Controls() : log_({WM_COMMAND}) {
+  Controls() : log_({WM_COMMAND, WM_HSCROLL}) {
     parent_ = log_.Create("1", WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
     Settle();
   }
@@ -36,55 +34,36 @@ class Controls : public testing::Test {
   HWND parent_ = nullptr;
 };
 
-using Buttons = Controls;
-
-TEST_F(Buttons, RadioButtonsOfAGroupAreCheckedOneAtATime) {
+TEST_F(Controls, RadioButtonsOfAGroupAreCheckedOneAtATime) {
   Add("Button", BS_AUTORADIOBUTTON | WS_GROUP, 100);
   Add("Button", BS_AUTORADIOBUTTON, 101);
   Add("Button", BS_AUTORADIOBUTTON | WS_GROUP, 102);
-  Press(parent_, 100);
-  EXPECT_EQ(Told(BN_CLICKED, 100), 1);
-  Press(parent_, 102);
-  Press(parent_, 101);
+  for (const int id : {100, 102, 101}) Press(parent_, id);
   EXPECT_FALSE(IsChecked(parent_, 100));
   EXPECT_TRUE(IsChecked(parent_, 101));
   EXPECT_TRUE(IsChecked(parent_, 102));
-  CheckRadioButton(parent_, 100, 101, 100);
-  EXPECT_TRUE(IsChecked(parent_, 100));
-  EXPECT_FALSE(IsChecked(parent_, 101));
 }
 
-using Edits = Controls;
-
-TEST_F(Edits, TellEveryChangeOfASingleLine) {
-  const HWND edit = Add("Edit", ES_AUTOHSCROLL);
-  SetWindowTextA(edit, "abc");
-  EXPECT_EQ(log_.Take(), (Lines{"1 COMMAND 100 code 1024", "1 COMMAND 100 code 768"}));
-  SetWindowTextA(edit, "abc");
-  EXPECT_EQ(Told(EN_CHANGE), 1);
-  Type(parent_, 100, "xy");
-  EXPECT_EQ(Text(edit), "xy");
-  EXPECT_EQ(Told(EN_CHANGE), 2);
+TEST_F(Controls, AButtonReleasedOutsideIsNotPressed) {
+  const HWND button = Add("Button", 0);
+  SendMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(button, WM_LBUTTONUP, 0, MAKELPARAM(500, 5));
+  EXPECT_EQ(Told(BN_CLICKED), 0);
+  Click(button, 5, 5);
+  EXPECT_EQ(Told(BN_CLICKED), 1);
 }
 
-TEST_F(Edits, ThatAreReadOnlyTakeNoKeys) {
-  const HWND edit = Add("Edit", ES_READONLY, 100, "fixed");
-  Type(parent_, 100, "abc");
-  SendMessageA(edit, WM_CHAR, VK_BACK, 1);
-  PressKey(edit, VK_DELETE);
-  EXPECT_EQ(Text(edit), "fixed");
-  EXPECT_EQ(Told(EN_CHANGE), 0);
-  SetWindowTextA(edit, "new");
-  EXPECT_EQ(Told(EN_CHANGE), 1);
+TEST_F(Controls, ThatAreDisabledLoseTheFocus) {
+  const HWND edit = Add("Edit", 0);
+  SetFocus(edit);
+  EnableWindow(edit, FALSE);
+  EXPECT_NE(GetFocus(), edit);
+  EXPECT_EQ(Told(EN_KILLFOCUS), 1);
 }
 
-TEST_F(Edits, DeleteAtTheCaretAndInTheSelection) {
+TEST_F(Controls, EditsDeleteAtTheCaretAndInTheSelection) {
   const HWND edit = Add("Edit", 0, 100, "abcdef");
   SendMessageA(edit, EM_SETSEL, 2, 4);
-  DWORD start = 0, end = 0;
-  SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-  EXPECT_EQ(start, 2u);
-  EXPECT_EQ(end, 4u);
   SendMessageA(edit, WM_CLEAR, 0, 0);
   EXPECT_EQ(Text(edit), "abef");
   SendMessageA(edit, WM_CHAR, VK_BACK, 1);
@@ -97,59 +76,42 @@ TEST_F(Edits, DeleteAtTheCaretAndInTheSelection) {
   EXPECT_EQ(Told(EN_CHANGE), 0);
 }
 
-TEST_F(Edits, TellWhenTheFocusComesAndGoes) {
-  const HWND edit = Add("Edit", 0);
-  SetFocus(parent_);
-  log_.Take();
-  SetFocus(edit);
-  EXPECT_EQ(Told(EN_SETFOCUS), 1);
-  SetFocus(parent_);
-  EXPECT_EQ(Told(EN_KILLFOCUS), 1);
+TEST_F(Controls, EditsThatAreReadOnlyTakeNoKeys) {
+  const HWND edit = Add("Edit", ES_READONLY, 100, "fixed");
+  Type(parent_, 100, "abc");
+  PressKey(edit, VK_DELETE);
+  EXPECT_EQ(Text(edit), "fixed");
 }
 
-using Lists = Controls;
-
-TEST_F(Lists, AListBoxTellsAClickWhenTheButtonComesUp) {
-  const HWND list = Add("ListBox", LBS_NOTIFY);
-  for (const char* text : {"x", "y", "z"})
+TEST_F(Controls, ListsSortWithoutCaseAndTellAClickWhenTheButtonComesUp) {
+  const HWND list = Add("ListBox", LBS_NOTIFY | LBS_SORT);
+  for (const char* text : {"b", "C", "A"})
     SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+  EXPECT_EQ(Items(parent_, 100), (std::vector<std::string>{"A", "b", "C"}));
   Click(list, 5, 3);
   EXPECT_EQ(Selected(parent_, 100), 0);
   EXPECT_EQ(Told(LBN_SELCHANGE), 1);
 }
 
-using CommonControls = Controls;
-
-TEST_F(CommonControls, AProgressBarStartsOverPastItsEnd) {
+TEST_F(Controls, AProgressBarStartsOverPastItsEnd) {
   const HWND bar = Add(PROGRESS_CLASSA, 0);
-  SendMessageA(bar, PBM_SETRANGE, 0, MAKELPARAM(0, 13));
-  EXPECT_EQ(SendMessageA(bar, PBM_SETSTEP, 1, 0), 10);
-  for (int step = 1; step <= 13; ++step) {
-    EXPECT_EQ(SendMessageA(bar, PBM_STEPIT, 0, 0), step - 1);
-    EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), step);
+  SendMessageA(bar, PBM_SETRANGE, 0, MAKELPARAM(0, 3));
+  SendMessageA(bar, PBM_SETSTEP, 1, 0);
+  for (const int position : {1, 2, 3, 1}) {
+    SendMessageA(bar, PBM_STEPIT, 0, 0);
+    EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), position);
   }
-  SendMessageA(bar, PBM_STEPIT, 0, 0);
-  EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), 1);
 }
 
-TEST_F(CommonControls, ArrowsStartFromWhatTheirBuddyShows) {
-  const HWND edit = Add("Edit", ES_NUMBER | WS_TABSTOP, 100);
-  const HWND arrows =
-      Add(UPDOWN_CLASSA, UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_ARROWKEYS | UDS_NOTHOUSANDS, 101);
-  SendMessageA(arrows, UDM_SETRANGE, 0, MAKELPARAM(300, 0));
-  SetWindowTextA(edit, "41");
-  PressKey(edit, VK_UP);
-  EXPECT_EQ(Text(edit), "42");
-  // Beyond the range the last position counts; an empty text is 0.
-  SetWindowTextA(edit, "900");
-  PressKey(edit, VK_UP);
-  EXPECT_EQ(Text(edit), "43");
-  SetWindowTextA(edit, "abc");
-  PressKey(edit, VK_DOWN);
-  EXPECT_EQ(Text(edit), "42");
-  SetWindowTextA(edit, "");
-  PressKey(edit, VK_UP);
-  EXPECT_EQ(Text(edit), "1");
+TEST_F(Controls, ATrackbarAtItsEndTellsNothing) {
+  const HWND bar = Add(TRACKBAR_CLASSA, 0);
+  SendMessageA(bar, TBM_SETRANGE, TRUE, MAKELPARAM(0, 1));
+  const auto scrolls = [&] {
+    SendMessageA(bar, WM_KEYDOWN, VK_RIGHT, 1);
+    return log_.Take().size();
+  };
+  EXPECT_EQ(scrolls(), 1u);
+  EXPECT_EQ(scrolls(), 0u);
 }
 
 }  // namespace

@@ -103,17 +103,21 @@ TEST_F(Dialogs, KeysMoveTheFocusAndPressButtons) {
   EXPECT_EQ(Run(IDD_ADD_ITEM), 5);
 }
 
-TEST_F(Dialogs, TabSkipsDisabledControls) {
+TEST_F(Dialogs, GiveTheFocusBackToItsControlAfterABox) {
   User user;
   user.When("Add new item", [&](HWND dialog) {
+    SetFocus(GetDlgItem(dialog, IDCANCEL));
+    MessageBoxA(dialog, "text", "Box", MB_OK | MB_ICONHAND);
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), IDCANCEL);
+    // Tab skips what is disabled.
     EnableWindow(GetDlgItem(dialog, IDOK), FALSE);
-    SetFocus(GetDlgItem(dialog, IDC_ADD_LIST));
     CheckRadioButton(dialog, IDC_ADD_ALLIED, IDC_ADD_YURI, IDC_ADD_YURI);
-    PressKey(GetFocus(), VK_TAB);
+    SetFocus(GetDlgItem(dialog, IDC_ADD_YURI));
     PressKey(GetFocus(), VK_TAB);
     EXPECT_EQ(GetDlgCtrlID(GetFocus()), IDCANCEL);
     PressKey(GetFocus(), VK_RETURN);
   });
+  user.Answer("Box", "text", MB_ICONHAND, IDOK);
   EXPECT_EQ(Run(IDD_ADD_ITEM), 5);
 }
 

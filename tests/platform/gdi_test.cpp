@@ -64,4 +64,10 @@ TEST(StretchBlt, PicksTheSourceColumnInProportion) {
     EXPECT_EQ(ColumnsOf(row.width, row.target), row.columns) << row.width << " to " << row.target;
 }
 
+TEST(SelectObject, KeepsABitmapInOneContext) {
+  Picture first(2, 2), second(2, 2);
+  EXPECT_EQ(SelectObject(second.dc, first.bitmap), nullptr);
+  EXPECT_EQ(SelectObject(second.dc, second.before), second.bitmap);
+}
+
 }  // namespace

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "platform/message_log.h"
 #include "support/user.h"
 
@@ -17,6 +20,11 @@ TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
   PostMessageA(window, WM_USER, 7, 0);
   PostMessageA(window, WM_USER, 8, 0);
   MSG message{};
+  // Until the timer is due as well.
+  for (int i = 0; i < 5; ++i) {
+    PeekMessageA(&message, nullptr, WM_USER + 1, WM_USER + 1, PM_REMOVE);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
   for (int i = 0; i < 4; ++i) {
     ASSERT_GT(GetMessageA(&message, nullptr, 0, 0), 0);
     DispatchMessageA(&message);

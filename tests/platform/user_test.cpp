@@ -3,7 +3,6 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "platform/message_log.h"
 #include "resources/resource.h"
 
 namespace {
@@ -70,16 +69,6 @@ TEST(UserTest, GivesUpWhenNobodyEndsTheLoop) {
   // Nothing of it is left for the next test.
   MSG message{};
   EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-}
-
-TEST(UserTest, WorksInsideALoopThatOnlyPolls) {
-  MessageLog log({WM_USER});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
-  bool done = false;
-  User user;
-  user.When("1", [&](HWND found) { done = found == window; });
-  for (int i = 0; i < 100000 && !done; ++i) Settle();
-  EXPECT_TRUE(done);
 }
 
 }  // namespace

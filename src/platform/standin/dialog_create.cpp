@@ -70,12 +70,7 @@ void Initialise(const Window& window, LPARAM param) {
       SendMessageA(handle, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), param) != 0;
   if (!IsWindow(handle) || !focus || (window.style & DS_CONTROL)) return;
   // The procedure may have changed which controls are tab stops.
-  const HWND now = NextTabStop(window, nullptr, false);
-  if (now) {
-    FocusControl(now);
-  } else if (!window.IsChild()) {
-    SetFocus(handle);
-  }
+  if (const HWND now = NextTabStop(window, nullptr, false)) FocusControl(now);
 }
 
 }  // namespace

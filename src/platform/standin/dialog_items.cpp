@@ -14,7 +14,6 @@ HWND GetDlgItem(HWND dialog, int id) {
     const auto found = FindWindowPtr(child);
     if (found && static_cast<int>(found->id) == id) return child;
   }
-  SetLastError(ERROR_CONTROL_ID_NOT_FOUND);
   return nullptr;
 }
 

@@ -41,10 +41,7 @@ INT_PTR RunDialog(const DialogTemplate& dialog, HWND owner, DLGPROC proc, LPARAM
   const bool ownerEnabled = ownerHandle && !EnableWindow(ownerHandle, FALSE);
   const HWND handle = CreateDialogFromTemplate(dialog, ownerHandle, proc, param, ownerEnabled);
   const auto window = handle ? FindWindowPtr(handle) : nullptr;
-  if (!window) {
-    if (ownerEnabled) EnableWindow(ownerHandle, TRUE);
-    return -1;
-  }
+  if (!window) Unsupported("a dialog that is destroyed before it runs");
   bool shown = window->style & WS_VISIBLE;
   while (!window->dialog->ended && RunOnce(handle, shown)) {
   }
@@ -62,19 +59,13 @@ using namespace standin;
 INT_PTR DialogBoxParamA(HINSTANCE, LPCSTR templateName, HWND owner, DLGPROC proc, LPARAM param) {
   const auto& dialogs = ProgramResources().dialogs;
   const auto found = dialogs.find(ResourceNumber(templateName));
-  if (found == dialogs.end()) {
-    SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-    return -1;
-  }
+  if (found == dialogs.end()) Unsupported("a dialog that the program does not have");
   return RunDialog(found->second, owner, proc, param);
 }
 
 BOOL EndDialog(HWND handle, INT_PTR result) {
   const auto window = FindWindowPtr(handle);
-  if (!window || !window->dialog) {
-    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-    return FALSE;
-  }
+  if (!window || !window->dialog) return FALSE;
   // The dialog goes out of sight and its owner comes back at once; the window itself stays until
   // the loop has ended.
   window->dialog->ended = true;
@@ -83,6 +74,6 @@ BOOL EndDialog(HWND handle, INT_PTR result) {
   if (IsInside(handle, GetFocus())) SetFocus(handle);
   SetWindowPos(handle, nullptr, 0, 0, 0, 0,
                SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
-  PostMessageA(handle, WM_NULL, 0, 0);
+  PostMessageA(handle, WM_USER, 0, 0);  // the loop looks once more
   return TRUE;
 }

@@ -43,11 +43,7 @@ LRESULT DefaultOf(const WindowPtr& window, UINT message, WPARAM wParam, LPARAM l
       if (!wParam) SaveFocus(window);
       break;
     case WM_ACTIVATE:
-      if (LOWORD(wParam)) {
-        RestoreFocus(window);
-      } else {
-        SaveFocus(window);
-      }
+      if (!LOWORD(wParam)) SaveFocus(window);
       return 0;
     case WM_SETFOCUS:
       RestoreFocus(window);

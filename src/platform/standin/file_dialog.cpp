@@ -142,12 +142,7 @@ void Accept(HWND dialog) {
   FileDialog& state = StateOfDialog(dialog);
   OPENFILENAMEA& request = *state.request;
   std::string path = FullPath(dialog);
-  if (path.empty()) return;
-  if (IsFolder(path)) {
-    state.folder = WithBackslash(path);
-    SetDlgItemTextA(dialog, cmb13, "");
-    return;
-  }
+  if (path.empty() || IsFolder(path)) return;
   if (!HasExtension(path)) path += ExtensionOf(request);
   const bool exists = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
   if (!IsFolder(FolderPart(path)) || (state.open && !exists)) return;

