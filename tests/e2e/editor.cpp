@@ -212,6 +212,7 @@ void Editor::OpenPicture(const std::string& path) const {
   // A click beside the only entry gives the list the keyboard.
   const RECT area = ClientArea(list);
   ClickAt({area.right - 20, area.bottom - 20});
+  WaitUntil("the list to have the keyboard", [&] { return State().hwndFocus == list; });
   TapKey(VK_HOME);
   TapKey(VK_SPACE);
   const HWND preview = GetDlgItem(FindChild(dialog, "#32770"), IDC_OPEN_PREVIEW);
