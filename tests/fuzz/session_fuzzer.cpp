@@ -16,9 +16,14 @@ constexpr size_t kMostActions = 400;
 constexpr size_t kActionsPerPicture = 4;
 constexpr char kOpenCaption[] = "Choose file to open";
 
+constexpr UINT kCommands[] = {
+    IDM_SAVE_AS_SHP,       IDM_SAVE_AS_IMAGE, IDM_EXIT,           IDM_SELECT_ITEM,
+    IDM_DELETE_ITEM,       IDM_UNSELECT_ITEM, IDM_COPY,           IDM_VIEW_TOP_LAYER,
+    IDM_VIEW_BOTTOM_LAYER, IDM_STATUS_BAR,    IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP,
+    IDM_MOVE_TARGET_BOX,   IDM_HELP,          IDM_ABOUT};
 constexpr UINT kDialogs[] = {IDM_ADD_ITEM, IDM_LOAD_SCREEN_SETTINGS, IDM_SCREENSHOT_SETTINGS};
 constexpr UINT kMouseMessages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_MOUSEMOVE,
-                                   WM_LBUTTONUP};
+                                   WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
 // None is a template without which the editor ends itself.
 constexpr const char* kFileNames[] = {"exact.png", "large.png", "wide.png",  "small.png",
                                       "broken",    "missing",   "Templates", "new\\file.bmp",
@@ -27,13 +32,13 @@ constexpr const char* kFileNames[] = {"exact.png", "large.png", "wide.png",  "sm
 constexpr TemplateSizes kSizes[] = {
     {},
     {{40, 30}, {10, 7}, {8, 8}, {3, 3}, {20, 20}},
-    {{1024, 600}, {300, 1000}, {500, 300}, {300, 400}, {800, 520}},
+    {{810, 530}, {300, 1000}, {500, 300}, {300, 400}, {90, 520}},
 };
 constexpr std::pair<const char*, PictureSize> kPictures[] = {
     {"Templates\\dot.png", {1, 1}},     {"Templates\\star.png", {75, 60}},
-    {"Templates\\line.png", {800, 1}},  {"Templates\\huge.png", {900, 600}},
+    {"Templates\\line.png", {800, 1}},  {"Templates\\huge.png", {810, 530}},
     {"Templates\\cameo.png", {76, 60}}, {"exact.png", {234, 232}},
-    {"large.png", {300, 260}},          {"wide.png", {3000, 232}},
+    {"large.png", {300, 260}},          {"wide.png", {1000, 232}},
     {"small.png", {233, 500}}};
 constexpr char kSettings[] =
     "[SymbolsList]\r\n1=Dot,dot.png\r\n2=Star,star.png\r\n3=Line,line.png\r\n4=Huge,huge.png\r\n"
@@ -96,8 +101,7 @@ class Session : public EditorFixture {
     WriteContent(File("good.pal"), std::string(768, '?'));
     for (const auto& [name, size] : kPictures) {
       WritePng(name, MakePicture(size.width, size.height, [](int32_t x, int32_t y) {
-                 return (x + y) % 5 ? static_cast<uint32_t>(x << 12 ^ y * 77) & 0xFFFFFF
-                                    : kKeyColour;
+                 return (x + y) % 5 ? static_cast<uint32_t>(x << 12) & 0xFFFFFF : kKeyColour;
                }));
     }
     SetCurrentDirectoryA(AppPath(".").c_str());
@@ -147,12 +151,8 @@ class Session : public EditorFixture {
   }
 
   void ChooseCommand() {
-    const HMENU menu = GetMenu(doc.mainWindow);
-    const HMENU popup = GetSubMenu(menu, choices_.Below(GetMenuItemCount(menu)));
-    UINT command = GetMenuItemID(popup, choices_.Below(GetMenuItemCount(popup)));
-    if (choices_.Chance(2)) command = choices_.From(kDialogs);
-    if (!command || !IsCommandEnabled(command)) return;
-    if (command == IDM_EXIT && !choices_.Chance(8)) return;
+    const UINT command = choices_.Chance(2) ? choices_.From(kDialogs) : choices_.From(kCommands);
+    if (!IsCommandEnabled(command) || (command == IDM_EXIT && !choices_.Chance(8))) return;
     if (command == IDM_EXIT) mayEnd_ = true;
     Command(command);
   }
@@ -186,7 +186,10 @@ class Session : public EditorFixture {
   }
 
   void WorkDialog(HWND dialog) {
-    const std::vector<HWND> controls = ChildWindows(dialog);
+    std::vector<HWND> controls = ChildWindows(dialog);
+    std::erase_if(controls, [](HWND control) {  // labels
+      return ClassOf(control) == "Static" && static_cast<WORD>(GetDlgCtrlID(control)) == 0xFFFF;
+    });
     const int action = choices_.Below(16);
     if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) {
       ChooseFile(dialog);
