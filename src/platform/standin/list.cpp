@@ -75,7 +75,8 @@ void List::Choose(LRESULT position) {
   if (Count() == 0) return;
   Select(std::clamp<LRESULT>(position, 0, Count() - 1));
   Repaint();
-  if (combo_ || Has(LBS_NOTIFY)) Tell(combo_ ? CBN_SELCHANGE : LBN_SELCHANGE);
+  static_assert(CBN_SELCHANGE == LBN_SELCHANGE);
+  if (combo_ || Has(LBS_NOTIFY)) Tell(LBN_SELCHANGE);
 }
 
 void List::Key(WPARAM key) {
