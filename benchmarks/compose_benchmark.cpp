@@ -1,36 +1,66 @@
 #include "document/composition.h"
 
-#include <algorithm>
+#include <cstring>
+#include <vector>
 
 #include "document/load_screen_doc.h"
+#include "inputs.h"
 #include "ratio.h"
-#include "sample_picture.h"
 
 namespace {
 
-void MakeSample(ImageClass& image, int32_t width, int32_t height) {
-  image.Free();
-  image.Create(width, height);
-  PaintSample(image);
+// Composes into a surface of a kind, against one copy of the picture's bytes.
+void MeasureCompose(benchmark::State& state, BitmapClass& target) {
+  std::vector<uint32_t> from(size_t{kPictureWidth} * kPictureHeight, 1), to(from);
+  const Ratio ratio(
+      state, [&] { ComposeLoadScreen(&target); },
+      [&] {
+        std::memcpy(to.data(), from.data(), from.size() * sizeof(uint32_t));
+        benchmark::DoNotOptimize(to.data());
+      });
+  state.counters["copies"] = ratio.Longer();
 }
 
-// One repaint's composition against one plain copy of the picture's pixels.
-void ComposeAgainstCopy(benchmark::State& state) {
-  MakeSample(doc.worldMap, 1600, 1040);
-  MakeSample(doc.worldMap2x, 3200, 2080);
-  MakeSample(doc.largeTargetBox, 295, 289);
-  MakeSample(doc.smallTargetBox, 60, 58);
-  MakeSample(doc.sideOverlay, kPictureWidth, kPictureHeight);
-  for (int32_t y = 0; y < kPictureHeight; y += 2) {
-    std::fill_n(doc.sideOverlay.Row(y), kPictureWidth, kKeyColour);
+template <class Prepare>
+void ComposeAgainstCopy(benchmark::State& state, Prepare prepare, bool dib) {
+  prepare();
+  if (dib) {
+    DIBClass target(kPictureWidth, kPictureHeight);
+    MeasureCompose(state, target);
+  } else {
+    ImageClass target;
+    target.Create(kPictureWidth, kPictureHeight);
+    MeasureCompose(state, target);
   }
-  doc.worldMapX = 1000;
-  ImageClass canvas, plain;
-  MakeSample(canvas, kPictureWidth, kPictureHeight);
-  MakeSample(plain, kPictureWidth, kPictureHeight);
-  MeasureRatio(
-      state, [&] { ComposeLoadScreen(&canvas); }, [&] { plain.Draw(canvas, 0, 0); });
 }
-BENCHMARK(ComposeAgainstCopy)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+void FullScreen() {
+  LoadStartUp();
+  AddIconsAndScreenshot();
+  AddItems(20);
+}
+
+// Half of the overlay's pixels, as they come, let the map show through.
+void NoiseOverlay() {
+  LoadStartUp();
+  doc.sideOverlay = NoisePicture();
+  for (int32_t y = 0; y < doc.sideOverlay.height; ++y) {
+    uint32_t* row = doc.sideOverlay.Row(y);
+    for (int32_t x = 0; x < doc.sideOverlay.width; ++x) {
+      if (row[x] & 1) row[x] = kKeyColour;
+    }
+  }
+}
+
+#define CORVANTA_COMPOSE(name, prepare)                               \
+  BENCHMARK_CAPTURE(ComposeAgainstCopy, name##_dib, prepare, true)    \
+      ->UseManualTime()                                               \
+      ->Unit(benchmark::kMicrosecond);                                \
+  BENCHMARK_CAPTURE(ComposeAgainstCopy, name##_image, prepare, false) \
+      ->UseManualTime()                                               \
+      ->Unit(benchmark::kMicrosecond)
+CORVANTA_COMPOSE(start, LoadStartUp);
+CORVANTA_COMPOSE(full, FullScreen);
+CORVANTA_COMPOSE(noise, NoiseOverlay);
 
 }  // namespace

@@ -43,9 +43,41 @@ void DrawIfLoaded(BitmapClass& target, const ImageClass& image, Point at) {
   if (image.valid) target.Draw(image, at.x, at.y);
 }
 
-void DrawBottomLayer(BitmapClass& target) {
+bool HasPictureSize(const BitmapClass& surface) {
+  return surface.valid && surface.width == kPictureWidth && surface.height == kPictureHeight;
+}
+
+// Whether every pixel of the target is the overlay's or, below it, the map's.
+bool MapAndOverlayCover(const BitmapClass& target) {
+  const ImageClass& map = doc.worldMap;
+  return HasPictureSize(target) && HasPictureSize(doc.sideOverlay) && map.valid &&
+         map.width >= kPictureWidth && map.height >= kPictureHeight && doc.worldMapX >= 0 &&
+         doc.worldMapX <= map.width && doc.worldMapY >= 0 && doc.worldMapY <= map.height;
+}
+
+// Draws both in one pass over the target.
+void DrawMapBelowOverlay(BitmapClass& target) {
+  const ImageClass& map = doc.worldMap;
+  const int32_t x = doc.worldMapX % map.width;
+  const int32_t left = std::min(map.width - x, kPictureWidth);
+  for (int32_t y = 0; y < kPictureHeight; ++y) {
+    uint32_t* to = target.Row(y);
+    const uint32_t* overlay = doc.sideOverlay.Row(y);
+    const uint32_t* below = map.Row((doc.worldMapY + y) % map.height);
+    MergeKeyed(to, overlay, below + x, left, kKeyColour);
+    MergeKeyed(to + left, overlay + left, below, kPictureWidth - left, kKeyColour);
+  }
+}
+
+void DrawMapAndOverlay(BitmapClass& target) {
+  if (MapAndOverlayCover(target)) return DrawMapBelowOverlay(target);
+  target.Fill(0);
   Tile(target, doc.worldMap, doc.worldMapX, doc.worldMapY, kPicture);
   target.DrawKeyed(doc.sideOverlay, 0, 0, kKeyColour);
+}
+
+void DrawBottomLayer(BitmapClass& target) {
+  DrawMapAndOverlay(target);
   if (doc.iconCount == 2) {
     for (int i = 0; i < 2; ++i) DrawIfLoaded(target, doc.icons[i], kTwoIcons[i]);
   } else {
@@ -88,7 +120,10 @@ void DrawTopLayer(BitmapClass& target) {
 
 void ComposeLoadScreen(BitmapClass* target) {
   if (!target) return;
-  target->Fill(0);
-  if (doc.showBottomLayer) DrawBottomLayer(*target);
+  if (doc.showBottomLayer) {
+    DrawBottomLayer(*target);
+  } else {
+    target->Fill(0);
+  }
   if (doc.showTopLayer) DrawTopLayer(*target);
 }

@@ -23,9 +23,10 @@ std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& pal
                                 int32_t usedEntries, const ExportProgress& progress) {
   std::vector<uint8_t> indices(static_cast<size_t>(picture.width) *
                                static_cast<size_t>(picture.height));
+  PaletteMapper mapper(palette, usedEntries);
   uint8_t* row = indices.data();
   for (int32_t y = 0; y < picture.height; ++y, row += picture.width) {
-    MapToPalette(picture.Row(y), picture.width, palette, usedEntries, row);
+    mapper.Map(picture.Row(y), picture.width, row);
     if (y % kRowsPerStep == 0) progress(ExportStep::RowsMapped);
   }
   return indices;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 // One entry of a palette on the full 8-bit scale.
 struct ShpColour {
@@ -26,6 +27,40 @@ ShpPalette PaletteOf(const uint32_t (&colours)[kPaletteEntries]);
 int32_t NearestColor(const ShpPalette& palette, int32_t red, int32_t green, int32_t blue,
                      int32_t n);
 
-// Writes for each of `count` pixels 0x00RRGGBB the index that NearestColor gives it.
-void MapToPalette(const uint32_t* pixels, int32_t count, const ShpPalette& palette, int32_t n,
-                  uint8_t* indices);
+// Gives pixels the indices that NearestColor gives them, much sooner: a pixel is compared only with
+// the entries that are nearest to some colour of its cell, one of 16 x 16 x 16, and not at all when
+// its colour was mapped lately. (Locally sorted search, P. Heckbert: Color Image Quantization for
+// Frame Buffer Display, 1982.)
+class PaletteMapper {
+ public:
+  // Maps to the first n entries, 1 to 256, of a palette.
+  PaletteMapper(const ShpPalette& palette, int32_t n);
+
+  // Writes the index of each of `count` pixels, whose top bytes play no part.
+  void Map(const uint32_t* pixels, int32_t count, uint8_t* indices);
+
+ private:
+  using Indices = std::vector<uint8_t>;
+  struct KnownColour {
+    uint32_t pixel = 0xFF000000;  // none that is looked for
+    uint8_t index = 0;
+  };
+  // The distance of a pixel p from an entry e is, by channel, w(e - p)^2 = we^2 - 2wep + wp^2. The
+  // last term is the same for all entries, so the others tell which is nearest.
+  struct Entry {
+    uint32_t squares;           // the sum of we^2, times 256, and the entry's index
+    uint32_t red, green, blue;  // 2we, times 256
+  };
+
+  uint8_t Nearest(uint32_t pixel);
+  // The entries among `candidates` that are nearest to some colour of a colour's cell of
+  // `cellSize` values a channel; kept in `cells`.
+  const Indices& NearCell(const ShpColour& colour, int32_t cellSize, const Indices& candidates,
+                          std::vector<Indices>& cells) const;
+
+  ShpPalette palette_;
+  std::vector<Entry> entries_;
+  Indices all_;
+  std::vector<Indices> coarse_, fine_;  // by cell, empty until a pixel falls into it
+  std::vector<KnownColour> known_;      // by a hash of the colour
+};

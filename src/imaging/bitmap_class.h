@@ -73,3 +73,10 @@ class BitmapClass {
   BitmapClass& operator=(const BitmapClass&) = default;
   ~BitmapClass() = default;
 };
+
+// Copies `count` pixels of a row but for those of the key.
+void CopyKeyed(uint32_t* to, const uint32_t* from, int32_t count, uint32_t key);
+// Copies `count` pixels of a row, for those of the key the ones below. All three are different
+// rows.
+void MergeKeyed(uint32_t* to, const uint32_t* from, const uint32_t* below, int32_t count,
+                uint32_t key);

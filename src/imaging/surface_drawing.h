@@ -103,10 +103,4 @@ class SurfaceDrawing : public BitmapClass {
       }
     }
   }
-
-  static void CopyKeyed(uint32_t* to, const uint32_t* from, int32_t count, uint32_t key) {
-    for (int32_t i = 0; i < count; ++i) {
-      if (from[i] != key) to[i] = from[i];
-    }
-  }
 };

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "benchmarks/plain_octree.h"
 #include "imaging/dib_class.h"
 #include "imaging/image_class.h"
 #include "support/template_pictures.h"
@@ -99,6 +100,26 @@ TEST(QuantizerTest, LargePalettesHaveKnownSums) {
     uint32_t sum = 0;
     for (const uint32_t entry : palette) sum = sum * 31 + entry;
     EXPECT_EQ(row.sum, sum) << row.colours << " colours";
+  }
+}
+
+// Noise, gradients and repeated colours, whose trees are merged again and again.
+TEST(QuantizerTest, RandomPicturesGetThePlainTreesPalette) {
+  uint32_t random = 7;
+  const auto next = [&random] { return (random = random * 1664525 + 1013904223) >> 8; };
+  for (uint32_t i = 0; i < 120; ++i) {
+    const uint32_t mask = i % 4 == 0 ? 0xFFFFFF : next() | next();
+    const uint32_t colours = 1 + next() % 256, depth = 1 + next() % 9, few = 2 + next() % 400;
+    const ImageClass picture = MakePicture(60, 40, [&](int32_t x, int32_t y) {
+      const auto shade = static_cast<uint32_t>(x * 4) << 16 | static_cast<uint32_t>(y * 6);
+      return (i % 3 == 0 ? shade : next() % few * 0x9E3779B1) & mask;
+    });
+    PlainOctree plain(colours, depth);
+    plain.AddSurface(picture);
+    Colours expected(256);
+    plain.FillPalette(expected.data());
+    expected.resize(plain.EntryCount());
+    ASSERT_EQ(expected, PaletteOf(picture, colours, depth)) << "picture " << i;
   }
 }
 

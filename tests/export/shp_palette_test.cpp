@@ -34,22 +34,35 @@ ShpPalette PaletteWith(const std::vector<uint32_t>& colours) {
   return PaletteOf(table);
 }
 
+int32_t Nearest(const ShpPalette& palette, uint32_t pixel, int32_t n) {
+  const auto part = [pixel](int shift) { return static_cast<int32_t>(pixel >> shift & 0xFF); };
+  return NearestColor(palette, part(16), part(8), part(0), n);
+}
+
 TEST(ShpPaletteTest, NearestEntryIsTheFirstOfTheLeastWeightedDistance) {
   for (const Row& row : kRows) {
-    const auto part = [&row](int shift) { return static_cast<int32_t>(row.pixel >> shift & 0xFF); };
-    EXPECT_EQ(row.nearest,
-              NearestColor(PaletteWith(row.entries), part(16), part(8), part(0), row.n))
-        << row.name;
+    EXPECT_EQ(row.nearest, Nearest(PaletteWith(row.entries), row.pixel, row.n)) << row.name;
   }
 }
 
-TEST(ShpPaletteTest, EveryPixelIsMappedByItsLow24Bits) {
-  const ShpPalette palette = PaletteWith({0x000000, 0xF80000, 0x00F800, 0x0000F8, 0x00F7F8});
-  const uint32_t pixels[] = {0xFF000000, 0xFF0000, 0x00FF00, 0x0000FF, 0xAB00FF01, 0x00FFFF, 0};
-  uint8_t indices[7] = {9, 9, 9, 9, 9, 9, 9};
-  MapToPalette(pixels, 6, palette, 4, indices);
-  EXPECT_EQ(std::vector<uint8_t>({0, 1, 2, 3, 2, 2, 9}),
-            std::vector<uint8_t>(indices, indices + 7));
+// Random entries and pixels, with extremes, duplicates and entries' own colours among them.
+TEST(ShpPaletteTest, EveryPixelIsMappedToItsNearestEntry) {
+  uint32_t random = 1;
+  const auto next = [&random] { return (random = random * 1664525 + 1013904223) >> 8; };
+  for (int32_t n = 1; n <= kPaletteEntries; n = n * 3 / 2 + 1) {
+    std::vector<uint32_t> entries(kPaletteEntries), pixels = {0, 0xFFFFFF, 0xFF0000, 0x00FFFF};
+    for (uint32_t& entry : entries) entry = next() % 5 ? next() : entries[next() % 256];
+    for (int32_t i = 0; i < 900; ++i) pixels.push_back(i % 4 ? next() : entries[next() % 256]);
+    pixels.push_back(0xAB000000 | entries[0]);  // the top byte plays no part
+    std::vector<uint8_t> indices(pixels.size() + 1, 0xEE);
+    const ShpPalette palette = PaletteWith(entries);
+    PaletteMapper(palette, n)
+        .Map(pixels.data(), static_cast<int32_t>(pixels.size()), indices.data());
+    for (size_t i = 0; i < pixels.size(); ++i) {
+      ASSERT_EQ(Nearest(palette, pixels[i], n), indices[i]) << "pixel " << i << " of " << n;
+    }
+    EXPECT_EQ(0xEE, indices.back());
+  }
 }
 
 }  // namespace
