@@ -62,10 +62,19 @@ void OctreeAgainstPlain(benchmark::State& state, ImageClass (*make)()) {
   state.counters["faster"] = ratio.Faster();
 }
 
-#define CORVANTA_PICTURES(subject)                                                                 \
-  BENCHMARK_CAPTURE(subject, map, MapPicture)->UseManualTime()->Unit(benchmark::kMillisecond);     \
-  BENCHMARK_CAPTURE(subject, noise, NoisePicture)->UseManualTime()->Unit(benchmark::kMillisecond); \
-  BENCHMARK_CAPTURE(subject, flat, FlatPicture)->UseManualTime()->Unit(benchmark::kMillisecond)
+#define CORVANTA_PICTURES(subject)                \
+  BENCHMARK_CAPTURE(subject, map, MapPicture)     \
+      ->UseManualTime()                           \
+      ->Iterations(20)                            \
+      ->Unit(benchmark::kMillisecond);            \
+  BENCHMARK_CAPTURE(subject, noise, NoisePicture) \
+      ->UseManualTime()                           \
+      ->Iterations(20)                            \
+      ->Unit(benchmark::kMillisecond);            \
+  BENCHMARK_CAPTURE(subject, flat, FlatPicture)   \
+      ->UseManualTime()                           \
+      ->Iterations(20)                            \
+      ->Unit(benchmark::kMillisecond)
 CORVANTA_PICTURES(MapAgainstScan);
 CORVANTA_PICTURES(OctreeAgainstPlain);
 
