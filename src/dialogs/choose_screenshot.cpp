@@ -1,5 +1,7 @@
 #include "dialogs/choose_screenshot.h"
 
+#include <utility>
+
 #include "dialogs/crop_image.h"
 #include "dialogs/open_image.h"
 #include "document/load_screen_doc.h"
@@ -28,10 +30,11 @@ class BlockedDialog {
   HWND focus_;
 };
 
-void CropScreenshot(HWND dialog, const ImageClass& picture) {
+void CropScreenshot(HWND dialog, ImageClass picture) {
   const BlockedDialog blocked(dialog);
   doc.screenshot.Free();
-  CropImage(doc.screenshot, picture, doc.lastFilePath, {kScreenshotWidth, kScreenshotHeight});
+  CropImage(doc.screenshot, std::move(picture), doc.lastFilePath,
+            {kScreenshotWidth, kScreenshotHeight});
 }
 
 bool WantsCropping(HWND dialog) {
@@ -54,6 +57,6 @@ bool ChooseScreenshot(HWND dialog) {
     return true;
   }
   if (!WantsCropping(dialog)) return false;
-  CropScreenshot(dialog, picture);
+  CropScreenshot(dialog, std::move(picture));
   return true;
 }

@@ -163,12 +163,13 @@ void CropDialog::ShowRectangle() {
 
 }  // namespace
 
-int CropImage(BitmapClass& destination, const BitmapClass& source, const char* path, SIZE size) {
+int CropImage(BitmapClass& destination, ImageClass source, const char* path, SIZE size) {
   if (!doc.cropPreview.Create(source.width, source.height)) {
     doc.cropPreview.Free();
     return 0;
   }
   doc.cropPreview.Draw(source, 0, 0);
+  source.Free();
   CropDialog dialog(path, size);
   const INT_PTR result = dialog.Run(IDD_CROP_IMAGE, doc.mainWindow);
   if (result != 0) {

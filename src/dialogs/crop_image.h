@@ -1,9 +1,10 @@
 #pragma once
 
-#include "imaging/bitmap_class.h"
+#include "imaging/image_class.h"
 #include "platform/win32.h"
 
 // Shows "Crop image", in which the user places a rectangle of the given size on the source, at
-// least as large as it. 1 when the user confirmed: the destination, which must be empty, holds the
-// rectangle's pixels then. 0 when the user cancelled; the destination is untouched then.
-int CropImage(BitmapClass& destination, const BitmapClass& source, const char* path, SIZE size);
+// least as large as it and let go of once it is shown: it may be large. 1 when the user confirmed:
+// the destination, which must be empty, holds the rectangle's pixels then. 0 when the user
+// cancelled; the destination is untouched then.
+int CropImage(BitmapClass& destination, ImageClass source, const char* path, SIZE size);

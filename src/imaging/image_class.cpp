@@ -1,8 +1,16 @@
 #include "imaging/image_class.h"
 
+#include <utility>
+
 #include "imaging/line_walk.h"
 
 ImageClass::ImageClass(const ImageClass& other) : ImageClass() { *this = other; }
+
+ImageClass::ImageClass(ImageClass&& other) noexcept : rows(std::move(other.rows)) {
+  valid = std::exchange(other.valid, 0);
+  width = std::exchange(other.width, 0);
+  height = std::exchange(other.height, 0);
+}
 
 ImageClass& ImageClass::operator=(const ImageClass& other) {
   if (this == &other) return *this;

@@ -13,6 +13,8 @@ class ImageClass final : public SurfaceDrawing<ImageClass> {
   ImageClass() = default;
   ImageClass(const ImageClass& other);
   ImageClass& operator=(const ImageClass& other);
+  // Takes the pixels; the other surface is empty afterwards.
+  ImageClass(ImageClass&& other) noexcept;
   ~ImageClass() { Free(); }
 
   // All pixels are 0 afterwards. False for a negative size. Throws std::bad_alloc.

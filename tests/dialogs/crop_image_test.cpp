@@ -17,7 +17,7 @@ uint32_t SourcePixel(int32_t x, int32_t y) {
 class CropImageTest : public EditorFixture {
  protected:
   // Crops a picture while the user does the step; the result of CropImage.
-  int Crop(const BitmapClass& picture, const std::function<void(HWND)>& step) {
+  int Crop(const ImageClass& picture, const std::function<void(HWND)>& step) {
     int result = -1;
     cropped.Free();
     WithDialog(
