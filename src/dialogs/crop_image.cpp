@@ -6,7 +6,6 @@
 #include "dialogs/dialog.h"
 #include "document/load_screen_doc.h"
 #include "imaging/crop_geometry.h"
-#include "imaging/dib_class.h"
 #include "imaging/memory_dc.h"
 #include "resources/resource.h"
 
@@ -20,6 +19,9 @@ class CropDialog final : public Dialog {
  public:
   CropDialog(const char* path, SIZE size)
       : cropWidth(size.cx), cropHeight(size.cy), cropPath(path) {}
+
+  // Takes the rectangle's outline away, whose pixels are the picture's again.
+  void HideRectangle() const;
 
   int32_t cropX = 0;
   int32_t cropY = 0;
@@ -42,9 +44,9 @@ class CropDialog final : public Dialog {
   const char* const cropPath;
   bool cropInitialising = true;  // while the dialog fills its fields
   ControlHook preview;
-  // What the preview shows: the picture, dimmed outside the rectangle, which has an outline. Kept,
-  // since the picture may be hundreds of times larger than the rectangle that moves.
-  DIBClass shown;
+  // The rectangle's pixels. The picture itself is dimmed around it and has its outline meanwhile:
+  // it may be large, and hundreds of times larger than the rectangle that moves.
+  ImageClass inside;
 };
 
 INT_PTR CropDialog::OnInit() {
@@ -59,11 +61,9 @@ INT_PTR CropDialog::OnInit() {
   preview.Attach(Control(IDC_CROP_PREVIEW), [this](UINT message, WPARAM wParam, LPARAM lParam) {
     return OnPreviewMessage(message, wParam, lParam);
   });
-  if (shown.Create(doc.cropPreview.width, doc.cropPreview.height)) {
-    shown.Draw(doc.cropPreview, 0, 0);
-    DimRegion(shown, 0, 0, shown.width, shown.height);
-    ShowRectangle();
-  }
+  inside.Create(cropWidth, cropHeight);
+  DimRegion(doc.cropPreview, 0, 0, doc.cropPreview.width, doc.cropPreview.height);
+  ShowRectangle();
   LayoutCropDialog();
   cropInitialising = false;
   return TRUE;
@@ -94,7 +94,7 @@ LRESULT CropDialog::OnPreviewMessage(UINT message, WPARAM wParam, LPARAM lParam)
     const PaintDc paint(preview.Control());
     const SIZE client = ClientSize(preview.Control());
     SetStretchBltMode(paint.get(), COLORONCOLOR);
-    shown.StretchTo(paint.get(), 0, 0, client.cx, client.cy);
+    doc.cropPreview.StretchTo(paint.get(), 0, 0, client.cx, client.cy);
   }
   if (message == WM_LBUTTONUP) OnClick(LOWORD(lParam), HIWORD(lParam));
   return DefWindowProcA(preview.Control(), message, wParam, lParam);
@@ -146,10 +146,8 @@ void CropDialog::OnClick(int32_t mouseX, int32_t mouseY) {
 
 void CropDialog::MoveRectangle(int32_t x, int32_t y) {
   if (x == cropX && y == cropY) return;
-  if (shown.valid) {
-    shown.CopyRegion(doc.cropPreview, cropX, cropY, cropX, cropY, cropWidth, cropHeight);
-    DimRegion(shown, cropX, cropY, cropWidth, cropHeight);
-  }
+  HideRectangle();
+  DimRegion(doc.cropPreview, cropX, cropY, cropWidth, cropHeight);
   cropX = x;
   cropY = y;
   ShowRectangle();
@@ -157,8 +155,13 @@ void CropDialog::MoveRectangle(int32_t x, int32_t y) {
 }
 
 void CropDialog::ShowRectangle() {
-  shown.CopyRegion(doc.cropPreview, cropX, cropY, cropX, cropY, cropWidth, cropHeight);
-  shown.DrawFrame(cropX, cropY, cropWidth, cropHeight, kOutline);
+  UndimRegion(doc.cropPreview, cropX, cropY, cropWidth, cropHeight);
+  inside.CopyRegion(doc.cropPreview, 0, 0, cropX, cropY, cropWidth, cropHeight);
+  doc.cropPreview.DrawFrame(cropX, cropY, cropWidth, cropHeight, kOutline);
+}
+
+void CropDialog::HideRectangle() const {
+  doc.cropPreview.CopyRegion(inside, cropX, cropY, 0, 0, cropWidth, cropHeight);
 }
 
 }  // namespace
@@ -173,6 +176,7 @@ int CropImage(BitmapClass& destination, ImageClass source, const char* path, SIZ
   CropDialog dialog(path, size);
   const INT_PTR result = dialog.Run(IDD_CROP_IMAGE, doc.mainWindow);
   if (result != 0) {
+    dialog.HideRectangle();
     destination.Create(size.cx, size.cy);
     destination.CopyRegion(doc.cropPreview, 0, 0, dialog.cropX, dialog.cropY, size.cx, size.cy);
   }

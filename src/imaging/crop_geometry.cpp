@@ -2,11 +2,19 @@
 
 #include <algorithm>
 
-#include "imaging/pixel_colour.h"
-
 namespace {
 
-constexpr uint32_t kDimming = 128;
+constexpr uint32_t kLowBits = 0x010101;  // the lowest bit of each channel
+constexpr uint32_t kColour = 0xFFFFFF;
+
+template <class Change>
+void ChangeRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height,
+                  Change change) {
+  for (int32_t row = y; row < y + height; ++row) {
+    uint32_t* const pixels = picture.Row(row) + x;
+    std::transform(pixels, pixels + width, pixels, change);
+  }
+}
 
 }  // namespace
 
@@ -23,9 +31,16 @@ int32_t CropAroundMouse(int32_t mouse, int32_t preview, int32_t picture, int32_t
 }
 
 void DimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height) {
-  for (int32_t row = y; row < y + height; ++row) {
-    uint32_t* const pixels = picture.Row(row) + x;
-    std::transform(pixels, pixels + width, pixels,
-                   [](uint32_t colour) { return Darken(colour, kDimming); });
-  }
+  ChangeRegion(picture, x, y, width, height, [](uint32_t colour) {
+    const uint32_t low = colour & kLowBits;
+    return (low | low >> 7 | low >> 14) << 24 | (((colour - low) >> 1) + low);
+  });
+}
+
+void UndimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height) {
+  ChangeRegion(picture, x, y, width, height, [](uint32_t dimmed) {
+    const uint32_t kept = dimmed >> 24;
+    const uint32_t low = (kept | kept << 7 | kept << 14) & kLowBits;
+    return ((dimmed & kColour) << 1) - low;
+  });
 }

@@ -14,5 +14,8 @@ int32_t LimitCrop(int64_t position, int32_t picture, int32_t crop);
 // picture.
 int32_t CropAroundMouse(int32_t mouse, int32_t preview, int32_t picture, int32_t crop);
 
-// Halves the brightness of a rectangle, which lies inside the picture.
+// Halves the brightness of a rectangle, which lies inside the picture. What the halves lose is kept
+// in the pixels' top bytes.
 void DimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height);
+// Gives a dimmed rectangle its pixels back, the top bytes 0.
+void UndimRegion(BitmapClass& picture, int32_t x, int32_t y, int32_t width, int32_t height);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/surface_text.h"
 #include "support/template_pictures.h"
 
 namespace {
@@ -21,10 +20,17 @@ TEST(CropGeometryTest, ClickCentresTheRectangleInsideThePicture) {
   EXPECT_EQ(0, LimitCrop(5, 100, 234)) << "a picture that is too small";
 }
 
-TEST(CropGeometryTest, DimsARectangle) {
-  ImageClass picture = PlainPicture(5, 4, 4);
+TEST(CropGeometryTest, DimsARectangleAndGivesItsPixelsBack) {
+  ImageClass picture = PlainPicture(5, 4, 0xFF0403);
+  picture.PutPixel(2, 1, 0x00FFFE);
   DimRegion(picture, 1, 1, 3, 2);
-  EXPECT_EQ(Rows("44444|42224|42224|44444"), Drawn(picture));
+  EXPECT_EQ(0xFF0403U, picture.Row(1)[0]) << "beside the rectangle";
+  EXPECT_EQ(0x800202U, picture.Row(1)[1] & 0xFFFFFF);
+  EXPECT_EQ(0x00807FU, picture.Row(1)[2] & 0xFFFFFF);
+  UndimRegion(picture, 1, 1, 2, 1);
+  EXPECT_EQ(0xFF0403U, picture.Row(1)[1]);
+  EXPECT_EQ(0x00FFFEU, picture.Row(1)[2]);
+  EXPECT_EQ(0x800202U, picture.Row(2)[3] & 0xFFFFFF) << "still dimmed";
 }
 
 }  // namespace
