@@ -44,6 +44,11 @@ TEST_F(ImageLibTest, PicturesComeBackWithoutTopBytes) {
       EXPECT_LE(Distance(picture, LoadPicture(path_)), row.distance) << path_ << size.width;
     }
   }
+  Picture large(132, std::vector<std::uint32_t>(16000));  // more than is decoded at once
+  for (std::size_t y = 0; y < large.size(); ++y) large[y][y] = 0xFFFFFF;
+  path_ = folder_.Path("large.bmp");
+  EXPECT_NE(0, SavePicture(path_, large));
+  EXPECT_TRUE(large == LoadPicture(path_));
 }
 
 TEST_F(ImageLibTest, JpegKeepsThinColouredLines) {

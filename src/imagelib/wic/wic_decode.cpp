@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "imagelib/wic/wic_objects.h"
 
 namespace imagelib {
@@ -16,6 +18,22 @@ bool OpenFrame(ByteView file, FileType type, ComPointer<IWICStream>* stream,
          SUCCEEDED(Factory()->CreateDecoder(ContainerId(type), nullptr, decoder->Receive())) &&
          SUCCEEDED((*decoder)->Initialize(stream->Get(), WICDecodeMetadataCacheOnDemand)) &&
          SUCCEEDED((*decoder)->GetFrame(0, frame->Receive()));
+}
+
+// In strips of up to 8 MiB: a converter may hold all that it is asked for a second time.
+bool CopyStrips(IWICBitmapSource* source, UINT width, UINT height, std::uint32_t* pixels) {
+  constexpr UINT kStripPixels = 1U << 21;
+  const UINT stripHeight = std::max(kStripPixels / width, 1U);
+  for (UINT y = 0; y < height; y += stripHeight) {
+    const UINT rows = std::min(stripHeight, height - y);
+    const WICRect strip{0, static_cast<INT>(y), static_cast<INT>(width), static_cast<INT>(rows)};
+    if (FAILED(source->CopyPixels(&strip, width * 4, width * 4 * rows,
+                                  reinterpret_cast<BYTE*>(pixels)))) {
+      return false;
+    }
+    pixels += std::size_t{width} * rows;
+  }
+  return true;
 }
 
 }  // namespace
@@ -38,8 +56,7 @@ bool Decode(ByteView file, const Container& container, std::uint32_t* pixels) {
          SUCCEEDED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGRA,
                                          WICBitmapDitherTypeNone, nullptr, 0.0,
                                          WICBitmapPaletteTypeCustom)) &&
-         SUCCEEDED(converter->CopyPixels(nullptr, width * 4, width * 4 * height,
-                                         reinterpret_cast<BYTE*>(pixels)));
+         CopyStrips(converter.Get(), width, height, pixels);
 }
 
 }  // namespace imagelib
