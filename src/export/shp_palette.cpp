@@ -28,9 +28,9 @@ constexpr size_t CellCount(int32_t cellSize) {
 
 size_t CellOf(const ShpColour& colour, int32_t cellSize) {
   const int32_t perChannel = 256 / cellSize;
-  return static_cast<size_t>((colour.red / cellSize * perChannel + colour.green / cellSize) *
-                                 perChannel +
-                             colour.blue / cellSize);
+  const int32_t cell = (colour.red / cellSize * perChannel + colour.green / cellSize) * perChannel +
+                       colour.blue / cellSize;
+  return static_cast<size_t>(cell);
 }
 
 // A channel's values in one cell.

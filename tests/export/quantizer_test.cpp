@@ -108,7 +108,8 @@ TEST(QuantizerTest, RandomPicturesGetThePlainTreesPalette) {
   uint32_t random = 7;
   const auto next = [&random] { return (random = random * 1664525 + 1013904223) >> 8; };
   for (uint32_t i = 0; i < 120; ++i) {
-    const uint32_t mask = i % 4 == 0 ? 0xFFFFFF : next() | next();
+    const uint32_t bits = next();
+    const uint32_t mask = i % 4 == 0 ? 0xFFFFFF : bits | next();
     const uint32_t colours = 1 + next() % 256, depth = 1 + next() % 9, few = 2 + next() % 400;
     const ImageClass picture = MakePicture(60, 40, [&](int32_t x, int32_t y) {
       const auto shade = static_cast<uint32_t>(x * 4) << 16 | static_cast<uint32_t>(y * 6);
