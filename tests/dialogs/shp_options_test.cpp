@@ -142,15 +142,6 @@ TEST_F(ShpOptionsTest, ChosenModeIsKeptAndDoesNotTestTheNameAgain) {
   EXPECT_EQ(palette, ReadContent(File("there.pal"))) << "an existing palette is only read";
 }
 
-TEST_F(ShpOptionsTest, FailureIsShownAndClosesTheDialog) {
-  SaveAsShp([this](HWND dialog) {
-    Type(dialog, IDC_SHP_NAME, AppPath("Templates\\"));
-    user.Answer("Error", "Palette file create error!", MB_ICONHAND, IDOK);
-    Press(dialog, IDOK);
-  });
-  ExpectSprite(256);
-}
-
 // What has been posted before arrives while the pixels are being mapped.
 TEST_F(ShpOptionsTest, NothingEndsOrRepeatsARunningExport) {
   SaveAsShp([this](HWND dialog) {
