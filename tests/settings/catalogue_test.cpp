@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/file_content.h"
-#include "support/temp_folder.h"
-
 namespace {
 
 constexpr LeadingSpaces kKeep = LeadingSpaces::kKeep, kSkip = LeadingSpaces::kSkip;
@@ -27,15 +24,6 @@ TEST(CatalogueTest, ValuesAreSplitAtCommas) {
     const auto entry = SplitCatalogueEntry(row.value, row.spaces);
     EXPECT_EQ(row.entry, entry ? entry->text + "|" + entry->fileName : "") << row.name;
   }
-}
-
-TEST(CatalogueTest, FirstCharactersOfAValueCount) {
-  const TempFolder folder;
-  WriteContent(folder.Path("s.ini"), "[s]\n1=none\n2=Flag," + std::string(300, 'n') + "\n");
-  std::vector<CatalogueEntry> entries;
-  EXPECT_STREQ(nullptr, ReadCatalogue(folder.Path("s.ini").c_str(), "s", kKeep, entries));
-  ASSERT_EQ(1U, entries.size());
-  EXPECT_EQ(std::string(250, 'n'), entries[0].fileName);
 }
 
 }  // namespace
