@@ -76,6 +76,13 @@ TEST_F(Controls, EditsDeleteAtTheCaretAndInTheSelection) {
   EXPECT_EQ(Told(EN_CHANGE), 0);
 }
 
+TEST_F(Controls, EditsOfSeveralLinesDoNotTellThatTheirTextWasSet) {
+  SetWindowTextA(Add("Edit", ES_MULTILINE), "text");
+  EXPECT_EQ(Told(EN_CHANGE, 100), 0);
+  SetWindowTextA(Add("Edit", 0, 101), "text");
+  EXPECT_EQ(Told(EN_CHANGE, 101), 1);
+}
+
 TEST_F(Controls, EditsThatAreReadOnlyTakeNoKeys) {
   const HWND edit = Add("Edit", ES_READONLY, 100, "fixed");
   Type(parent_, 100, "abc");
@@ -91,6 +98,9 @@ TEST_F(Controls, ListsSortWithoutCaseAndTellAClickWhenTheButtonComesUp) {
   Click(list, 5, 3);
   EXPECT_EQ(Selected(parent_, 100), 0);
   EXPECT_EQ(Told(LBN_SELCHANGE), 1);
+  // The selection stays with its entry when another one is put above it.
+  SendMessageA(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("first"));
+  EXPECT_EQ(Selected(parent_, 100), 1);
 }
 
 TEST_F(Controls, AProgressBarStartsOverPastItsEnd) {

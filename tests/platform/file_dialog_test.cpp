@@ -49,9 +49,8 @@ class FileDialogs : public testing::Test {
 };
 
 TEST_F(FileDialogs, ChangeTheCurrentDirectoryToTheChosenFiles) {
-  request_.lpstrInitialDir = folder_.c_str();
   User user;
-  user.ChooseFile("Open", "there.bmp");
+  user.ChooseFile("Open", folder_ + "there.bmp");
   EXPECT_TRUE(GetOpenFileNameA(&request_));
   EXPECT_EQ(path_, folder_ + "there.bmp");
   EXPECT_EQ(CurrentFolder(), folder_);
@@ -63,6 +62,16 @@ TEST_F(FileDialogs, TooSmallABufferIsAnError) {
   user.ChooseFile("Save As", folder_ + "new.bmp");
   EXPECT_FALSE(GetSaveFileNameA(&request_));
   EXPECT_EQ(CommDlgExtendedError(), static_cast<DWORD>(FNERR_BUFFERTOOSMALL));
+}
+
+TEST_F(FileDialogs, FilesAreSharedOnlyWhenBothSidesAllowIt) {
+  const auto open = [&](DWORD access, DWORD share) {
+    return CreateFileA((folder_ + "there.bmp").c_str(), access, share, nullptr, OPEN_EXISTING,
+                       FILE_ATTRIBUTE_NORMAL, nullptr);
+  };
+  const HANDLE writer = open(GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+  EXPECT_EQ(open(GENERIC_READ, FILE_SHARE_READ), INVALID_HANDLE_VALUE);
+  EXPECT_TRUE(CloseHandle(writer));
 }
 
 }  // namespace

@@ -16,11 +16,14 @@ LRESULT DialogWindowProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam
 HWND CreateDialogFromTemplate(const DialogTemplate& dialog, HWND owner, DLGPROC proc, LPARAM param,
                               bool ownerEnabled);
 
+// A template for one of the system's own dialogs, still without controls; sizes in dialog units.
+DialogTemplate SystemDialog(const char* caption, int width, int height);
+
 // Runs a modal dialog and gives what EndDialog was told, or -1 when it could not be made.
 INT_PTR RunDialog(const DialogTemplate& dialog, HWND owner, DLGPROC proc, LPARAM param);
 
 // The next control that the Tab key reaches, or the first for none; null when there is none.
-HWND NextTabStop(const Window& dialog, HWND control, bool previous);
+HWND NextTabStop(const Window& dialog, HWND control);
 
 // Gives a control the focus as the keyboard does: the text of an edit control is selected.
 void FocusControl(HWND control);

@@ -65,15 +65,26 @@ void CreateControls(const DialogTemplate& dialog, Window& window) {
 
 void Initialise(const Window& window, LPARAM param) {
   const HWND handle = window.handle;
-  const HWND first = NextTabStop(window, nullptr, false);
+  const HWND first = NextTabStop(window, nullptr);
   const bool focus =
       SendMessageA(handle, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), param) != 0;
   if (!IsWindow(handle) || !focus || (window.style & DS_CONTROL)) return;
   // The procedure may have changed which controls are tab stops.
-  if (const HWND now = NextTabStop(window, nullptr, false)) FocusControl(now);
+  if (const HWND now = NextTabStop(window, nullptr)) FocusControl(now);
 }
 
 }  // namespace
+
+DialogTemplate SystemDialog(const char* caption, int width, int height) {
+  DialogTemplate dialog;
+  dialog.caption = caption;
+  dialog.style = DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU;
+  dialog.width = width;
+  dialog.height = height;
+  dialog.fontSize = 8;
+  dialog.fontName = "MS Shell Dlg";
+  return dialog;
+}
 
 HWND CreateDialogFromTemplate(const DialogTemplate& dialog, HWND owner, DLGPROC proc, LPARAM param,
                               bool ownerEnabled) {

@@ -1,13 +1,79 @@
+#include <algorithm>
+
 #include "platform/standin/dialog.h"
 
 namespace standin {
 namespace {
 
+// The first control behind (or before) the given one, round the end and up to itself, that has the
+// style and may have the focus.
+HWND NextOf(std::vector<HWND> order, HWND control, bool previous, DWORD style) {
+  if (previous) std::reverse(order.begin(), order.end());
+  const auto place = std::find(order.begin(), order.end(), control);
+  if (place != order.end()) std::rotate(order.begin(), place + 1, order.end());
+  for (const HWND candidate : order) {
+    const auto has = static_cast<DWORD>(GetWindowLongPtrA(candidate, GWL_STYLE));
+    if ((has & style) == style && (has & WS_VISIBLE) && !(has & WS_DISABLED)) return candidate;
+  }
+  return nullptr;
+}
+
+void MoveInGroup(HWND control, bool previous) {
+  const HWND next = NextOf(GroupOf(*FindWindowPtr(control)), control, previous, 0);
+  if (!next) return;
+  FocusControl(next);
+  const bool radio = SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON;
+  if (radio && SendMessageA(next, BM_GETCHECK, 0, 0) != BST_CHECKED)
+    SendMessageA(next, BM_CLICK, 0, 0);
+}
+
+// Enter presses the push button that has the focus, otherwise the default button.
+void PressDefault(const Window& dialog) {
+  const HWND focus = GetFocus();
+  const LRESULT code = focus ? SendMessageA(focus, WM_GETDLGCODE, 0, 0) : 0;
+  const bool push = code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON);
+  const int id = push && IsInside(dialog.handle, focus) ? GetDlgCtrlID(focus)
+                 : dialog.dialog->defaultButton         ? dialog.dialog->defaultButton
+                                                        : IDOK;
+  const HWND button = GetDlgItem(dialog.handle, id);
+  if (button && !IsWindowEnabled(button)) return;
+  SendMessageA(dialog.handle, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+               reinterpret_cast<LPARAM>(button));
+}
+
+// True when the dialog has taken the key from its control.
+bool HandleKey(const Window& dialog, const MSG& message) {
+  const LRESULT code =
+      SendMessageA(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+  if (code & DLGC_WANTMESSAGE) return false;
+  switch (message.wParam) {
+    case VK_TAB:
+      if (const HWND next = NextTabStop(dialog, GetFocus())) FocusControl(next);
+      return true;
+    case VK_LEFT:
+    case VK_UP:
+    case VK_RIGHT:
+    case VK_DOWN:
+      if ((code & DLGC_WANTARROWS) || message.hwnd == dialog.handle) return false;
+      MoveInGroup(message.hwnd, message.wParam == VK_LEFT || message.wParam == VK_UP);
+      return true;
+    case VK_ESCAPE:
+      SendMessageA(dialog.handle, WM_COMMAND, IDCANCEL,
+                   reinterpret_cast<LPARAM>(GetDlgItem(dialog.handle, IDCANCEL)));
+      return true;
+    case VK_RETURN:
+      PressDefault(dialog);
+      return true;
+    default:
+      return false;
+  }
+}
+
 void RestoreFocus(const WindowPtr& window) {
   if (!window->dialog || window->dialog->ended) return;
   HWND target = window->dialog->savedFocus;
   if (!target || !IsInside(window->handle, target) || !IsWindowEnabled(target))
-    target = NextTabStop(*window, nullptr, false);
+    target = NextTabStop(*window, nullptr);
   window->dialog->savedFocus = nullptr;
   SetFocus(target ? target : window->handle);
 }
@@ -59,6 +125,16 @@ LRESULT DefaultOf(const WindowPtr& window, UINT message, WPARAM wParam, LPARAM l
 
 }  // namespace
 
+HWND NextTabStop(const Window& dialog, HWND control) {
+  return NextOf(dialog.children, control, false, WS_TABSTOP);
+}
+
+void FocusControl(HWND control) {
+  if (SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL)
+    SendMessageA(control, EM_SETSEL, 0, -1);
+  SetFocus(control);
+}
+
 LRESULT DialogWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto window = FindWindowPtr(handle);
   if (!window) return 0;
@@ -73,3 +149,14 @@ LRESULT DialogWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 }  // namespace standin
+
+using namespace standin;
+
+BOOL IsDialogMessageA(HWND handle, LPMSG message) {
+  const auto window = FindWindowPtr(handle);
+  if (!window || !message->hwnd || !IsInside(handle, message->hwnd)) return FALSE;
+  if (message->message == WM_KEYDOWN && HandleKey(*window, *message)) return TRUE;
+  TranslateMessage(message);
+  DispatchMessageA(message);
+  return TRUE;
+}

@@ -11,8 +11,8 @@ namespace {
 
 constexpr DWORD kKnownFlags = OFN_HIDEREADONLY | OFN_ENABLEHOOK | OFN_ENABLETEMPLATE |
                               OFN_FILEMUSTEXIST | OFN_EXPLORER | OFN_ENABLESIZING;
-constexpr int kOwnHeight = 120;  // dialog units; an extension makes the dialog higher and wider
-constexpr int kOwnWidth = 280;
+constexpr int kHeight = 120;  // dialog units; an extension makes the dialog higher and wider
+constexpr int kWidth = 280;
 
 DWORD extendedError = 0;
 
@@ -20,13 +20,7 @@ struct FileDialog {
   OPENFILENAMEA* request;
   bool open;           // otherwise it saves
   std::string folder;  // in which names without a folder are meant; ends in a backslash
-  HWND child = nullptr;
 };
-
-bool IsAbsolute(const std::string& path) {
-  return !path.empty() &&
-         (path[0] == '\\' || path[0] == '/' || (path.size() > 1 && path[1] == ':'));
-}
 
 std::string FolderPart(const std::string& path) {
   const size_t end = path.find_last_of("\\/");
@@ -38,24 +32,15 @@ bool IsFolder(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-std::string CurrentFolder() {
-  char path[MAX_PATH];
-  GetCurrentDirectoryA(MAX_PATH, path);
-  return path;
-}
-
-std::string WithBackslash(std::string folder) {
-  if (folder.empty() || folder.back() != '\\') folder += '\\';
-  return folder;
-}
-
 // Where the dialog opens: the proposed file's folder, else the one asked for, else the current one.
 std::string FirstFolder(const OPENFILENAMEA& request) {
   const std::string proposed = FolderPart(request.lpstrFile);
-  if (!proposed.empty() && IsFolder(proposed)) return WithBackslash(proposed);
-  if (request.lpstrInitialDir && *request.lpstrInitialDir && IsFolder(request.lpstrInitialDir))
-    return WithBackslash(request.lpstrInitialDir);
-  return WithBackslash(CurrentFolder());
+  if (IsFolder(proposed)) return proposed;
+  char folder[MAX_PATH];
+  GetCurrentDirectoryA(MAX_PATH, folder);
+  std::string first = request.lpstrInitialDir ? request.lpstrInitialDir : folder;
+  if (first.empty() || first.back() != '\\') first += '\\';
+  return first;
 }
 
 FileDialog& StateOfDialog(HWND dialog) {
@@ -65,7 +50,7 @@ FileDialog& StateOfDialog(HWND dialog) {
 std::string FullPath(HWND dialog) {
   char name[MAX_PATH];
   GetDlgItemTextA(dialog, cmb13, name, MAX_PATH);
-  return IsAbsolute(name) || !*name ? name : StateOfDialog(dialog).folder + name;
+  return FolderPart(name).empty() && *name ? StateOfDialog(dialog).folder + name : name;
 }
 
 // What CDM_GETFILEPATH gives: without a name it is the folder.
@@ -76,24 +61,22 @@ std::string SelectedPath(HWND dialog) {
 }
 
 // The hook and its template make a child dialog that fills the dialog behind its own controls.
-void CreateChild(HWND dialog, FileDialog& state) {
-  const OPENFILENAMEA& request = *state.request;
+void CreateChild(HWND dialog, OPENFILENAMEA& request) {
   if (!(request.Flags & OFN_ENABLETEMPLATE)) return;
   const auto& dialogs = ProgramResources().dialogs;
   const auto found = dialogs.find(ResourceNumber(request.lpTemplateName));
   if (found == dialogs.end()) Unsupported("the file dialog's template is missing");
-  const auto hook = request.Flags & OFN_ENABLEHOOK ? request.lpfnHook : nullptr;
-  static LPOFNHOOKPROC currentHook;
-  currentHook = hook;
-  const DLGPROC proc = [](HWND child, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
-    return currentHook ? static_cast<INT_PTR>(currentHook(child, message, wParam, lParam)) : 0;
+  static LPOFNHOOKPROC hook;
+  hook = request.lpfnHook;
+  const DLGPROC proc = [](HWND child, UINT message, WPARAM wParam, LPARAM lParam) {
+    return static_cast<INT_PTR>(hook(child, message, wParam, lParam));
   };
-  state.child = CreateDialogFromTemplate(found->second, dialog, proc,
-                                         reinterpret_cast<LPARAM>(state.request), false);
+  const HWND child = CreateDialogFromTemplate(found->second, dialog, proc,
+                                              reinterpret_cast<LPARAM>(&request), false);
   RECT client{};
   GetClientRect(dialog, &client);
-  SetWindowPos(state.child, HWND_BOTTOM, 0, 0, client.right, client.bottom, SWP_NOACTIVATE);
-  ShowWindow(state.child, SW_SHOW);
+  SetWindowPos(child, HWND_BOTTOM, 0, 0, client.right, client.bottom, SWP_NOACTIVATE);
+  ShowWindow(child, SW_SHOW);
 }
 
 void Initialise(HWND dialog, LPARAM param) {
@@ -102,7 +85,7 @@ void Initialise(HWND dialog, LPARAM param) {
   state.folder = FirstFolder(*state.request);
   const std::string proposed = state.request->lpstrFile;
   SetDlgItemTextA(dialog, cmb13, proposed.substr(FolderPart(proposed).size()).c_str());
-  CreateChild(dialog, state);
+  CreateChild(dialog, *state.request);
 }
 
 bool HasExtension(const std::string& path) {
@@ -112,16 +95,9 @@ bool HasExtension(const std::string& path) {
 // The first file type's first pattern says which extension a name gets; for any file it is the
 // default one.
 std::string ExtensionOf(const OPENFILENAMEA& request) {
-  if (!request.lpstrDefExt) return "";
-  const char* filter = request.lpstrFilter;
-  if (filter && *filter) {
-    std::string pattern = filter + std::strlen(filter) + 1;
-    pattern = pattern.substr(0, pattern.find(';'));
-    const size_t dot = pattern.find_last_of('.');
-    if (dot != std::string::npos && pattern.find_first_of("*?", dot) == std::string::npos)
-      return pattern.substr(dot);
-  }
-  return std::string(".") + request.lpstrDefExt;
+  std::string pattern = request.lpstrFilter + std::strlen(request.lpstrFilter) + 1;
+  pattern = pattern.substr(pattern.find('.'), pattern.find(';') - pattern.find('.'));
+  return pattern == ".*" ? std::string(".") + request.lpstrDefExt : pattern;
 }
 
 // Hands the name over. False when it does not fit into the caller's buffer, which gets the size
@@ -177,15 +153,10 @@ bool RunFileDialog(OPENFILENAMEA* request, bool open) {
   if (request->lStructSize != sizeof *request) Unsupported("a file dialog of another size");
   if (request->Flags & ~kKnownFlags) Unsupported("a file dialog flag that is not known here");
   const auto visible = static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP);
-  DialogTemplate dialog;
-  dialog.style = DS_SETFONT | WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
-                 (request->Flags & OFN_ENABLESIZING ? WS_THICKFRAME : DS_MODALFRAME);
-  dialog.caption = request->lpstrTitle ? request->lpstrTitle : open ? "Open" : "Save As";
-  const bool extended = request->Flags & OFN_ENABLETEMPLATE;
-  dialog.width = kOwnWidth + (extended ? kOwnWidth : 0);
-  dialog.height = kOwnHeight + (extended ? kOwnHeight : 0);
-  dialog.fontSize = 8;
-  dialog.fontName = "MS Shell Dlg";
+  const int parts = request->Flags & OFN_ENABLETEMPLATE ? 2 : 1;
+  const char* title = request->lpstrTitle ? request->lpstrTitle : open ? "Open" : "Save As";
+  DialogTemplate dialog = SystemDialog(title, parts * kWidth, parts * kHeight);
+  dialog.style |= WS_THICKFRAME | WS_CLIPCHILDREN;
   dialog.controls = {
       {"Edit", "", cmb13, visible | WS_BORDER | ES_AUTOHSCROLL, 0, 60, 80, 150, 12},
       {"Button", open ? "&Open" : "&Save", IDOK, visible | BS_DEFPUSHBUTTON, 0, 220, 80, 50, 14},

@@ -53,11 +53,6 @@ struct Font : GdiObject {
   const LOGFONTA description;
 };
 
-struct Brush : GdiObject {
-  explicit Brush(COLORREF colour_) : colour(colour_) {}
-  const COLORREF colour;
-};
-
 // A device context: of a window, of the screen (no window, no bitmap), or of memory.
 struct DeviceContext {
   bool memory = false;
@@ -89,8 +84,5 @@ Pixels* TargetOf(DeviceContext& dc);
 // A COLORREF (red in the low byte) as a pixel, and back.
 uint32_t PixelOf(COLORREF colour);
 COLORREF ColourOf(uint32_t pixel);
-
-// The colour of a brush handle; a small number stands for a system colour plus one.
-COLORREF BrushColour(HBRUSH brush);
 
 }  // namespace standin

@@ -43,9 +43,7 @@ bool Copy(HDC dc, const Block& to, HDC sourceDC, const Block& from) {
   if (!target || !source) return false;
   if (to.width < 0 || to.height < 0 || from.width < 0 || from.height < 0)
     Unsupported("pictures are not mirrored");
-  // A copy within one picture reads what stood there before.
-  Pixels before = target == source ? *source : Pixels(0, 0, false);
-  if (target == source) source = &before;
+  if (target == source) Unsupported("no picture is copied onto itself");
   const RECT shown = Visible(*context, *target, {to.x, to.y, to.x + to.width, to.y + to.height});
   const bool stretches = to.width != from.width;
   for (int y = shown.top; y < shown.bottom; ++y) {
@@ -106,7 +104,9 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
   const auto context = FindDC(dc);
   Pixels* target = context ? TargetOf(*context) : nullptr;
   if (!target) return 0;
-  Fill(*context, *target, *rect, BrushColour(brush));
+  // There are brushes of the system's colours only.
+  const auto colour = static_cast<int>(reinterpret_cast<INT_PTR>(brush)) - 1;
+  Fill(*context, *target, *rect, GetSysColor(colour));
   return 1;
 }
 

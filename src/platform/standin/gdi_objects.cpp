@@ -1,5 +1,4 @@
 #include <cstring>
-#include <map>
 #include <new>
 #include <utility>
 
@@ -80,14 +79,6 @@ size_t LiveGdiObjects() {
   size_t count = Contexts().All().size();
   for (const auto& [handle, object] : Objects().All()) count += object->stock ? 0 : 1;
   return count;
-}
-
-COLORREF BrushColour(HBRUSH brush) {
-  const auto index = reinterpret_cast<uintptr_t>(brush);
-  if (index > 0 && index <= 31) return GetSysColor(static_cast<int>(index) - 1);
-  const auto found = FindGdi<Brush>(brush);
-  if (!found) Unsupported("brushes have the colours of the system");
-  return found->colour;
 }
 
 }  // namespace standin
@@ -209,9 +200,7 @@ DWORD GetSysColor(int index) {
   }
 }
 
+// As in a window class, a brush is the number of a system colour plus one.
 HBRUSH GetSysColorBrush(int index) {
-  static auto* brushes = new std::map<int, HGDIOBJ>;
-  HGDIOBJ& brush = (*brushes)[index];
-  if (!brush) brush = AddStock(std::make_shared<Brush>(GetSysColor(index)));
-  return static_cast<HBRUSH>(brush);
+  return reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(index) + 1);
 }

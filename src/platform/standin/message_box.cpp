@@ -46,13 +46,8 @@ using namespace standin;
 
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
   const HICON picture = LoadIconA(nullptr, IconName(type));
-  DialogTemplate box;
-  box.style = DS_SETFONT | DS_MODALFRAME | DS_CENTER | WS_POPUP | WS_CAPTION | WS_SYSMENU;
-  box.caption = caption;
-  box.width = 210;
-  box.height = 70;
-  box.fontSize = 8;
-  box.fontName = "MS Shell Dlg";
+  DialogTemplate box = SystemDialog(caption, 210, 70);
+  box.style |= DS_CENTER;
   box.controls = {{"Static", "", kIconId, WS_CHILD | WS_VISIBLE | SS_ICON, 0, 7, 7, 20, 20},
                   {"Static", text, kTextId, WS_CHILD | WS_VISIBLE, 0, 35, 7, 168, 36}};
   const bool question = type & MB_YESNO;

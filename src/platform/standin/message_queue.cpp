@@ -39,12 +39,10 @@ Queue& TheQueue() {
 
 // Which messages a call is about.
 struct Filter {
-  HWND window = nullptr;
   UINT first = 0;
   UINT last = 0;
 
-  bool Takes(HWND target, UINT message) const {
-    if (window && !IsInside(window, target)) return false;
+  bool Takes(UINT message) const {
     return (!first && !last) || (message >= first && message <= last);
   }
 };
@@ -56,7 +54,7 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
 bool TakePosted(MSG& message, const Filter& filter, bool remove) {
   auto& posted = TheQueue().posted;
   const auto found = std::find_if(posted.begin(), posted.end(), [&](const MSG& candidate) {
-    return filter.Takes(candidate.hwnd, candidate.message);
+    return filter.Takes(candidate.message);
   });
   if (found == posted.end()) return false;
   message = *found;
@@ -75,7 +73,7 @@ bool TakeQuit(MSG& message, bool remove) {
 bool TakePaint(MSG& message, const Filter& filter) {
   Queue& queue = TheQueue();
   const auto window = NextToPaint();
-  if (!window || !filter.Takes(window->handle, WM_PAINT)) return false;
+  if (!window || !filter.Takes(WM_PAINT)) return false;
   queue.paints = window == queue.lastPainted ? queue.paints + 1 : 0;
   queue.lastPainted = window;
   if (queue.paints > kPaintsInVain)
@@ -87,7 +85,7 @@ bool TakePaint(MSG& message, const Filter& filter) {
 bool TakeTimer(MSG& message, const Filter& filter) {
   Queue& queue = TheQueue();
   for (Timer& timer : queue.timers) {
-    if (timer.due > queue.now || !filter.Takes(timer.window, WM_TIMER)) continue;
+    if (timer.due > queue.now || !filter.Takes(WM_TIMER)) continue;
     timer.due = queue.now + timer.period;
     message = MakeMessage(timer.window, WM_TIMER, timer.id, reinterpret_cast<LPARAM>(timer.proc));
     // The others of this moment come first the next time.
@@ -100,9 +98,7 @@ bool TakeTimer(MSG& message, const Filter& filter) {
 
 bool Take(MSG& message, const Filter& filter, bool remove) {
   if (TakePosted(message, filter, remove)) return true;
-  if (filter.Takes(nullptr, WM_QUIT) || (!filter.first && !filter.last)) {
-    if (TakeQuit(message, remove)) return true;
-  }
+  if (filter.Takes(WM_QUIT) && TakeQuit(message, remove)) return true;
   if (TakePaint(message, filter)) return true;
   TheQueue().lastPainted.reset();
   return TakeTimer(message, filter);
@@ -124,9 +120,9 @@ void PassTime(DWORD milliseconds) { TheQueue().now += milliseconds; }
 
 using namespace standin;
 
-BOOL GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
+BOOL GetMessageA(LPMSG message, HWND, UINT first, UINT last) {
   Queue& queue = TheQueue();
-  while (!Take(*message, {window, first, last}, true)) {
+  while (!Take(*message, {first, last}, true)) {
     const auto next =
         std::min_element(queue.timers.begin(), queue.timers.end(),
                          [](const Timer& a, const Timer& b) { return a.due < b.due; });
@@ -136,8 +132,8 @@ BOOL GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
   return message->message != WM_QUIT;
 }
 
-BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove) {
-  if (Take(*message, {window, first, last}, remove & PM_REMOVE)) return TRUE;
+BOOL PeekMessageA(LPMSG message, HWND, UINT first, UINT last, UINT remove) {
+  if (Take(*message, {first, last}, remove & PM_REMOVE)) return TRUE;
   PassTime(kPollTime);
   return FALSE;
 }

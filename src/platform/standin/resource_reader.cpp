@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <cstring>
+
 #include "platform/standin/failure.h"
 #include "platform/standin/resource_scanner.h"
 #include "platform/standin/resources.h"
@@ -27,10 +30,10 @@ constexpr ControlStatement kControlStatements[] = {
 
 class Reader {
  public:
-  explicit Reader(const std::string& script) : scanner_(script) {}
+  explicit Reader(const std::string& script) : tokens_(ScanResources(script)) {}
 
   Resources Read() {
-    while (scanner_.Current().kind != Token::Kind::End) ReadResource();
+    while (Current().kind != Token::Kind::End) ReadResource();
     return std::move(resources_);
   }
 
@@ -40,31 +43,38 @@ class Reader {
                 "\" is not known here");
   }
 
+  const Token& Current() const { return tokens_[place_]; }
+  // Hands the current token over; the last one stays.
+  Token Take() { return tokens_[place_ + 1 < tokens_.size() ? place_++ : place_]; }
+
   bool IsAt(const char* text) const {
-    const Token& token = scanner_.Current();
+    const Token& token = Current();
     return token.text == text && token.kind != Token::Kind::Text;
   }
 
   bool Accept(const char* text) {
     if (!IsAt(text)) return false;
-    scanner_.Take();
+    Take();
     return true;
   }
 
   void Expect(const char* text) {
-    if (!Accept(text)) Fail(scanner_.Current());
+    if (!Accept(text)) Fail(Current());
   }
 
   std::string Text() {
-    if (scanner_.Current().kind != Token::Kind::Text) Fail(scanner_.Current());
-    return scanner_.Take().text;
+    if (Current().kind != Token::Kind::Text) Fail(Current());
+    return Take().text;
   }
 
   DWORD Term() {
     if (Accept("-")) return static_cast<DWORD>(-static_cast<int>(Term()));
-    const Token token = scanner_.Take();
+    const Token token = Take();
     if (token.kind != Token::Kind::Number) Fail(token);
-    return static_cast<DWORD>(token.number);
+    char* end = nullptr;
+    const unsigned long number = std::strtoul(token.text.c_str(), &end, 0);
+    if (*end && std::strcmp(end, "L") != 0) Fail(token);
+    return static_cast<DWORD>(number);
   }
 
   int Number() { return static_cast<int>(Term()); }
@@ -96,7 +106,7 @@ class Reader {
 
   void ReadResource() {
     const int id = Number();
-    const Token type = scanner_.Take();
+    const Token type = Take();
     if (type.text == "MENU") {
       resources_.menus[id] = ReadMenu();
     } else if (type.text == "DIALOGEX") {
@@ -115,8 +125,8 @@ class Reader {
 
   // Up to the END of the outermost block.
   void SkipVersion() {
-    for (int depth = 0, blocks = 0; depth > 0 || blocks == 0; scanner_.Take()) {
-      if (scanner_.Current().kind == Token::Kind::End) Fail(scanner_.Current());
+    for (int depth = 0, blocks = 0; depth > 0 || blocks == 0; Take()) {
+      if (Current().kind == Token::Kind::End) Fail(Current());
       if (IsAt("BEGIN")) ++depth, ++blocks;
       if (IsAt("END")) --depth;
     }
@@ -165,7 +175,7 @@ class Reader {
   }
 
   ControlTemplate ReadControl() {
-    const Token word = scanner_.Take();
+    const Token word = Take();
     ControlTemplate control;
     control.style = WS_CHILD | WS_VISIBLE;
     if (word.text == "CONTROL") {
@@ -202,7 +212,8 @@ class Reader {
     Fail(word);
   }
 
-  ResourceScanner scanner_;
+  const std::vector<Token> tokens_;
+  size_t place_ = 0;
   Resources resources_;
 };
 

@@ -1,8 +1,7 @@
 #include "platform/standin/resource_scanner.h"
 
+#include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <cstring>
 
 #include "platform/standin/failure.h"
 
@@ -13,74 +12,46 @@ bool IsWordCharacter(char letter) {
   return std::isalnum(static_cast<unsigned char>(letter)) || letter == '_';
 }
 
+// Reads a text from behind its first quote to behind its last one. A doubled quote stands for one;
+// of the escapes, those for a line break and a backslash are known.
+std::string ReadText(const std::string& script, size_t& place, int line) {
+  std::string text;
+  for (; place < script.size() && script[place] != '\n'; ++place) {
+    const char next = place + 1 < script.size() ? script[place + 1] : '\0';
+    if (script[place] == '"' && next != '"') return ++place, text;
+    const bool escaped = script[place] == '\\';
+    if (escaped && next != 'n' && next != '\\') break;
+    if (escaped || script[place] == '"') ++place;
+    text += escaped && next == 'n' ? '\n' : script[place];
+  }
+  Unsupported("resource script, line " + std::to_string(line) + ": a text does not end");
+}
+
 }  // namespace
 
-ResourceScanner::ResourceScanner(const std::string& script) : script_(script) { Advance(); }
-
-Token ResourceScanner::Take() {
-  Token token = current_;
-  Advance();
-  return token;
-}
-
-bool ResourceScanner::At(size_t offset, const char* characters) const {
-  const size_t place = position_ + offset;
-  return place < script_.size() && std::strchr(characters, script_[place]) != nullptr;
-}
-
-void ResourceScanner::SkipSpace() {
-  while (At(0, " \t\r\n")) {
-    if (script_[position_++] == '\n') ++line_;
-  }
-}
-
-// A doubled quote stands for one; of the escapes, those for a line break and a backslash are known.
-std::string ResourceScanner::ReadText() {
-  std::string text;
-  for (++position_; position_ < script_.size() && script_[position_] != '\n'; ++position_) {
-    char letter = script_[position_];
-    if (letter == '"') {
-      if (!At(1, "\"")) {
-        ++position_;
-        return text;
-      }
-      ++position_;
-    } else if (letter == '\\') {
-      if (!At(1, "n\\")) break;
-      letter = script_[++position_] == 'n' ? '\n' : '\\';
+std::vector<Token> ScanResources(const std::string& script) {
+  std::vector<Token> tokens;
+  int line = 1;
+  for (size_t place = 0; place < script.size();) {
+    const char first = script[place];
+    if (std::isspace(static_cast<unsigned char>(first))) {
+      line += first == '\n' ? 1 : 0;
+      ++place;
+    } else if (first == '"') {
+      tokens.push_back({Token::Kind::Text, ReadText(script, ++place, line), line});
+    } else if (IsWordCharacter(first)) {
+      const auto begin = script.begin() + static_cast<std::ptrdiff_t>(place);
+      const std::string word(begin, std::find_if_not(begin, script.end(), IsWordCharacter));
+      const bool digit = std::isdigit(static_cast<unsigned char>(first));
+      tokens.push_back({digit ? Token::Kind::Number : Token::Kind::Word, word, line});
+      place += word.size();
+    } else {
+      tokens.push_back({Token::Kind::Sign, {first}, line});
+      ++place;
     }
-    text += letter;
   }
-  Unsupported("resource script, line " + std::to_string(line_) + ": a text does not end");
-}
-
-void ResourceScanner::Advance() {
-  SkipSpace();
-  current_ = {};
-  current_.line = line_;
-  if (position_ >= script_.size()) return;
-  const size_t start = position_;
-  const char first = script_[start];
-  if (first == '"') {
-    current_.kind = Token::Kind::Text;
-    current_.text = ReadText();
-    return;
-  }
-  if (!IsWordCharacter(first)) {
-    current_.kind = Token::Kind::Sign;
-    current_.text = first;
-    ++position_;
-    return;
-  }
-  while (position_ < script_.size() && IsWordCharacter(script_[position_])) ++position_;
-  current_.text = script_.substr(start, position_ - start);
-  current_.kind = Token::Kind::Word;
-  if (!std::isdigit(static_cast<unsigned char>(first))) return;
-  char* end = nullptr;
-  current_.kind = Token::Kind::Number;
-  current_.number = std::strtol(current_.text.c_str(), &end, 0);
-  if (*end && std::strcmp(end, "L") != 0)
-    Unsupported("resource script, line " + std::to_string(line_) + ": number " + current_.text);
+  tokens.push_back({Token::Kind::End, "", line});
+  return tokens;
 }
 
 }  // namespace standin

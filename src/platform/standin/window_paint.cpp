@@ -44,9 +44,7 @@ void PaintNow(HWND handle) {
 
 }  // namespace
 
-// Nothing is kept for a window that cannot be seen: it is painted in whole when it is shown.
 void Invalidate(Window& window, const RECT* rect, bool erase) {
-  if (!IsWindowVisible(window.handle)) return;
   RECT part = rect ? *rect : ClientOf(window);
   part = {std::max(part.left, LONG{0}), std::max(part.top, LONG{0}),
           std::min(part.right, LONG{window.ClientWidth()}),
