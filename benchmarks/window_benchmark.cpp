@@ -134,8 +134,8 @@ void BenchExport(const Editor& editor) {
   std::vector<double> times;
   for (int i = 0; i < 7; ++i) {
     editor.Command(IDM_SAVE_AS_SHP);
-    editor.SaveAs(NewResultPath("benchmark.shp"), "benchmark");
-    const HWND options = editor.Dialog("SHP save options", "benchmark");
+    editor.SaveAs(NewResultPath("benchmark.shp"));
+    const HWND options = editor.Dialog("SHP save options");
     Paste(GetDlgItem(options, IDC_SHP_NAME), NewResultPath("benchmark.pal"));
     times.push_back(Press(options, IDOK, [options] { return !IsWindow(options); }));
   }
@@ -144,13 +144,13 @@ void BenchExport(const Editor& editor) {
 
 void BenchCrop(const Editor& editor, const std::string& process, const std::string& path) {
   editor.Command(IDM_LOAD_SCREEN_SETTINGS);
-  const HWND settings = editor.Dialog("Load screen settings", "benchmark");
+  const HWND settings = editor.Dialog("Load screen settings");
   PostMessageA(settings, WM_COMMAND, IDC_SETTINGS_BROWSE, 0);
-  const HWND open = editor.Dialog("Choose file to open", "benchmark");
+  const HWND open = editor.Dialog("Choose file to open");
   Paste(FindChild(open, "Edit"), path);
   const double opening = Press(open, IDOK, [] { return FindWindowA("#32770", "Corvanta"); });
-  editor.Close(editor.Dialog("Corvanta", "benchmark"), IDYES);
-  const HWND crop = editor.Dialog("Crop image", "benchmark");
+  editor.Close(editor.Dialog("Corvanta"), IDYES);
+  const HWND crop = editor.Dialog("Crop image");
   const HWND preview = GetDlgItem(crop, IDC_CROP_PREVIEW);
   constexpr int kClicks = 50;
   const double before = CpuTime(process);

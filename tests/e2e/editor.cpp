@@ -128,15 +128,6 @@ GUITHREADINFO Editor::State() const {
   return state;
 }
 
-void Editor::FileMenu(int place) const {
-  BringToFront(main_);
-  TapKey(VK_F10);
-  WaitUntil("the menu to take keys", [this] { return (State().flags & GUI_INMENUMODE) != 0; });
-  TapKey(VK_DOWN, place);
-  Screenshot(main_, "menu-File");
-  TapKey(VK_RETURN);
-}
-
 void Editor::Tap(WORD key, int times, std::initializer_list<BYTE> held) const {
   BringToFront(main_);
   const DIBClass before = CopyPixels(WindowDc(nullptr).get(), PictureArea());
@@ -158,12 +149,12 @@ void Editor::Drag(POINT from, POINT to) const {
   WaitUntil("the view to release the mouse", [this] { return State().hwndCapture != view_; });
 }
 
-HWND Editor::Dialog(const std::string& caption, const std::string& screenName) const {
+HWND Editor::Dialog(const std::string& caption) const {
   HWND dialog = nullptr;
-  WaitUntil("the dialog \"" + caption + "\" (" + screenName + ")",
+  WaitUntil("the dialog \"" + caption + "\"",
             [&] { return (dialog = Standing("#32770", caption)) != nullptr; });
   BringToFront(dialog);
-  Screenshot(dialog, screenName);
+  CaptureScreen(ClientArea(dialog));
   return dialog;
 }
 
@@ -186,22 +177,21 @@ void Editor::Close(HWND dialog, int button) const {
   WaitUntil("a window to close", [dialog] { return !IsWindow(dialog); });
 }
 
-void Editor::Answer(const std::string& caption, const std::string& text, int button,
-                    const std::string& screenName) const {
+void Editor::Answer(const std::string& caption, const std::string& text, int button) const {
   constexpr int kTextOfBox = 0xFFFF;
-  const HWND box = Dialog(caption, screenName);
+  const HWND box = Dialog(caption);
   EXPECT_EQ(Text(box, kTextOfBox), text) << "in the box \"" << caption << "\"";
   Close(box, button);
 }
 
-void Editor::SaveAs(const std::string& path, const std::string& screenName) const {
-  const HWND dialog = Dialog("", screenName);
+void Editor::SaveAs(const std::string& path) const {
+  const HWND dialog = Dialog("");
   EnterName(dialog, path);
   Close(dialog, IDOK);
 }
 
 void Editor::OpenPicture(const std::string& path) const {
-  const HWND dialog = Dialog("Choose file to open", "open-empty");
+  const HWND dialog = Dialog("Choose file to open");
   EnterName(dialog, path.substr(0, path.rfind('\\')));
   Click(dialog, IDOK);
   HWND list = nullptr;

@@ -27,25 +27,21 @@ class Editor {
 
   // Chooses a command as the menu would.
   void Command(UINT id) const;
-  // Chooses the item at that place, from 1, of the menu File with mouse and keyboard.
-  void FileMenu(int place) const;
   // Presses a key so many times with others held, until the picture has changed and stays.
   void Tap(WORD key, int times = 1, std::initializer_list<BYTE> held = {}) const;
   // Drags from one point of the picture to another.
   void Drag(POINT from, POINT to) const;
 
   // Waits for a dialog or message box of the caption, or of any, that takes the user's input now.
-  // Its picture is screen-<screenName>.png.
-  HWND Dialog(const std::string& caption, const std::string& screenName) const;
+  HWND Dialog(const std::string& caption) const;
   // Clicks the middle of a control, once it lies open.
   void Click(HWND dialog, int id) const;
   // Clicks a button that closes the dialog.
   void Close(HWND dialog, int button) const;
   // Expects a message box with exactly this text and presses the button.
-  void Answer(const std::string& caption, const std::string& text, int button,
-              const std::string& screenName) const;
+  void Answer(const std::string& caption, const std::string& text, int button) const;
   // Saves under the path in the system's dialog.
-  void SaveAs(const std::string& path, const std::string& screenName) const;
+  void SaveAs(const std::string& path) const;
   // Goes to the folder of the picture, which is alone there, in the Open dialog, picks it in the
   // list, waits for the preview and confirms.
   void OpenPicture(const std::string& path) const;
@@ -63,7 +59,7 @@ class Editor {
   HWND view_ = nullptr;
 };
 
-// Presses and releases a key, which goes to the window in front.
+// Presses and releases a key so many times, which goes to the window in front.
 void TapKey(WORD key, int times = 1);
 // Replaces the text of a field that the user would paste to.
 void Paste(HWND edit, const std::string& text);

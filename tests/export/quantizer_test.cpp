@@ -60,9 +60,7 @@ const Row kRows[] = {
     {"NoPixel", {}, 4, {}},
     {"OneColour", {0xFF123456, 0x00123456, 0x12123456}, 256, {0x123456}},
     {"TreeOrder", kTenColours, 256, kTenInTreeOrder},
-    {"FewerThan16ButEnough", kTenColours, 10, kTenInTreeOrder},
     {"CombinedByPixels", WeightedGreys(), 4, {0x202020, 0x5B5B5B, 0x999999, 0xD9D9D9}},
-    {"CombinedToOne", WeightedGreys(), 1, {0xA0A0A0}},
     {"UnevenGroups", {0, 0x101010, 0x202020, 0x303030, 0x404040}, 3, {0, 0x181818, 0x383838}},
     {"NewestDeepestBranchMerges", kPairsAndMore, 16, kPairsMerged},
     {"Octants", {0xE0E0E0, 0xFFFFFF, 0, 0x101010, 0xC0}, 256, {0x080808, 0xC0, 0xEFEFEF}, 1},
@@ -81,25 +79,6 @@ TEST(QuantizerTest, KnownPicturesGetKnownPalettes) {
     DIBClass column;
     column.CreateFromPixels(row.pixels.data(), 1, count);
     EXPECT_EQ(row.palette, PaletteOf(column, row.colours, row.depth));
-  }
-}
-
-TEST(QuantizerTest, LargePalettesHaveKnownSums) {
-  // 300 colours, each its own leaf.
-  const ImageClass picture = MakePicture(20, 15, [](int32_t x, int32_t y) {
-    const auto i = static_cast<uint32_t>(y * 20 + x);
-    return (i * 0x01D3) << 8 | (i * 0x1F & 0xFF);
-  });
-  const struct {
-    uint32_t colours, entries, sum;
-  } rows[] = {
-      {40, 36, 0x4AA8A7EA}, {100, 98, 0xADF80467}, {255, 254, 0x1D933FA7}, {256, 256, 0xF0FD71CE}};
-  for (const auto& row : rows) {
-    const Colours palette = PaletteOf(picture, row.colours);
-    EXPECT_EQ(row.entries, palette.size());
-    uint32_t sum = 0;
-    for (const uint32_t entry : palette) sum = sum * 31 + entry;
-    EXPECT_EQ(row.sum, sum) << row.colours << " colours";
   }
 }
 

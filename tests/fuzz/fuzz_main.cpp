@@ -41,21 +41,10 @@ std::vector<uint8_t> MakeInput(const std::vector<std::string>& seeds, uint64_t n
   } else {
     input = seeds[below(seeds.size())];
     for (size_t left = below(kMostChanges + 1); left > 0; --left) {
-      const size_t at = below(input.size() + 1), length = 1 + below(kLongestPiece);
-      const char telling = "\0\1\x7F\x80\xFF"[below(5)];
-      switch (below(4)) {
-        case 0:
-          if (at < input.size()) input[at] = static_cast<char>(input[at] ^ 1 << below(8));
-          break;
-        case 1:
-          input.replace(at, 1, 1, telling);
-          break;
-        case 2:
-          input.erase(at, length);
-          break;
-        default:
-          input.insert(below(input.size() + 1), input.substr(at, length));
-      }
+      const size_t from = below(input.size() + 1), at = below(input.size() + 1);
+      const std::string telling(1, "\0\1\x7F\x80\xFF"[below(5)]);
+      const std::string piece = input.substr(from, below(kLongestPiece));
+      input.replace(at, below(3) ? 1 : below(kLongestPiece), below(2) ? telling : piece);
     }
   }
   // A copy of the exact size shows reading past the end.
