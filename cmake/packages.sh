@@ -25,4 +25,5 @@ build_packages=(cmake ninja-build g++-mingw-w64-x86-64 wine wine64)
 package_packages=(fp-utils nsis)
 artwork_packages=(python3-numpy python3-scipy python3-pil)
 native_packages=(g++ libpng-dev libjpeg-dev libgtest-dev libgmock-dev googletest)
-display_packages=(xvfb xauth openbox x11-utils)
+# Without common fonts Wine takes a wide one, which cuts the dialogs' texts.
+display_packages=(xvfb xauth openbox x11-utils fonts-liberation)

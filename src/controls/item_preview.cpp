@@ -47,7 +47,7 @@ LRESULT ItemPreview::OnPaint() const {
 
 void ItemPreview::Show(const char* path) const {
   doc.itemPreview.Free();
-  if (LoadImageFile(path, doc.itemPreview)) {
+  if (TryLoadImageFile(path, doc.itemPreview)) {
     Tint(doc.itemPreview);
   } else {
     doc.itemPreview.Free();

@@ -81,7 +81,7 @@ void AddItemDialog::AddSelectedItem() const {
   const char* fileName = SelectedFile();
   if (!fileName) return;
   ImageClass picture;
-  if (!LoadImageFile(TemplatePath("", fileName).c_str(), picture)) {
+  if (!TryLoadImageFile(TemplatePath("", fileName).c_str(), picture)) {
     InvalidateRect(Control(IDC_ADD_PREVIEW), nullptr, TRUE);
     return;
   }

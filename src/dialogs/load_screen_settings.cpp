@@ -107,7 +107,7 @@ void LoadScreenSettingsDialog::ChooseIcon(int slot) const {
   if (!fileName) return;
   ImageClass& icon = doc.icons[slot];
   icon.Free();
-  if (!LoadImageFile(TemplatePath(doc.appDir, fileName).c_str(), icon)) {
+  if (!TryLoadImageFile(TemplatePath(doc.appDir, fileName).c_str(), icon)) {
     RefuseIcon(slot, "Error: Can't find file!", MB_ICONEXCLAMATION);
     return;
   }

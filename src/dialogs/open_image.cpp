@@ -33,6 +33,13 @@ void OnInitDialog(HWND pane, const OPENFILENAMEA& dialog) {
   AddStyle(GetDlgItem(pane, IDC_OPEN_FRAME), GWL_EXSTYLE, WS_EX_TRANSPARENT);
 }
 
+// Wine gives the focus to the pane's first control; Windows gives it to the name field by itself.
+void OnShown(HWND pane) {
+  if (GetParent(GetFocus()) != pane) return;
+  const HWND box = GetDlgItem(GetParent(pane), cmb13);
+  SetFocus(box ? box : GetDlgItem(GetParent(pane), edt1));
+}
+
 void Resize(HWND pane, int id, int width, int height) {
   SetWindowPos(GetDlgItem(pane, id), nullptr, 0, 0, width, std::max(height, 0),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -51,8 +58,13 @@ void OnSelectionChanged(HWND pane) {
   if (needed > MAX_PATH - 1) path[0] = '\0';
   DIBClass& preview = PreviewOf(pane);
   preview.Free();
-  const bool loaded = LoadImageFile(path, preview) != 0;
+  const bool loaded = TryLoadImageFile(path, preview) != 0;
   ShowPreviewPicture(GetDlgItem(pane, IDC_OPEN_PREVIEW), loaded ? &preview : nullptr);
+}
+
+void OnNotice(HWND pane, UINT code) {
+  if (code == CDN_INITDONE) OnShown(pane);
+  if (code == CDN_SELCHANGE) OnSelectionChanged(pane);
 }
 
 UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam) {
@@ -64,7 +76,7 @@ UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam
       OnSize(pane, HIWORD(lParam));
       return 1;
     case WM_NOTIFY:
-      if (reinterpret_cast<const NMHDR*>(lParam)->code == CDN_SELCHANGE) OnSelectionChanged(pane);
+      OnNotice(pane, reinterpret_cast<const NMHDR*>(lParam)->code);
       return 1;
     case WM_DESTROY:
       PreviewOf(pane).Free();
@@ -99,5 +111,5 @@ int OpenImageWithPreview(HWND owner, char (&path)[MAX_PATH], BitmapClass& surfac
     path[0] = '\0';
     return 0;
   }
-  return LoadImageFile(path, surface);
+  return TryLoadImageFile(path, surface);
 }

@@ -1,5 +1,6 @@
 #include "dialogs/shp_options.h"
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
 
@@ -118,8 +119,11 @@ void ShpOptionsDialog::OnPaletteMode(PaletteMode mode) const {
 
 void ShpOptionsDialog::KeepColoursInRange() const {
   const UINT colours = Colours();
-  if (colours > kMostColours) SetDlgItemInt(Window(), IDC_SHP_COLOURS, kMostColours, FALSE);
-  if (colours < 1) SetDlgItemInt(Window(), IDC_SHP_COLOURS, 1, FALSE);
+  const UINT corrected = std::clamp(colours, 1U, kMostColours);
+  if (corrected == colours) return;
+  SetDlgItemInt(Window(), IDC_SHP_COLOURS, corrected, FALSE);
+  // What is typed next replaces the correction instead of adding digits to it.
+  Send(IDC_SHP_COLOURS, EM_SETSEL, 0, -1);
 }
 
 void ShpOptionsDialog::ExportShp() {

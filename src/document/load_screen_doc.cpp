@@ -25,7 +25,7 @@ const SideNames& NamesOf(int32_t side) {
 
 // Loads a picture of the Templates folder into an empty surface.
 bool LoadTemplate(const std::string& fileName, BitmapClass& surface) {
-  return LoadImageFile(TemplatePath(doc.appDir, fileName).c_str(), surface) != 0;
+  return TryLoadImageFile(TemplatePath(doc.appDir, fileName).c_str(), surface) != 0;
 }
 
 void LoadSideTemplate(const std::string& fileName, BitmapClass& surface) {

@@ -19,6 +19,14 @@ int32_t GeneratePalette(const ImageClass& picture, int32_t colours, ShpPalette& 
   return static_cast<int32_t>(quantizer.EntryCount());
 }
 
+// By their names only: upper and lower case make no difference, nor do ".\" and its like.
+bool AreSameFile(const char* one, const char* other) {
+  char full[2][MAX_PATH] = {};
+  const DWORD length = GetFullPathNameA(one, MAX_PATH, full[0], nullptr);
+  GetFullPathNameA(other, MAX_PATH, full[1], nullptr);
+  return length > 0 && length < MAX_PATH && lstrcmpiA(full[0], full[1]) == 0;
+}
+
 std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& palette,
                                 int32_t usedEntries, const ExportProgress& progress) {
   std::vector<uint8_t> indices(static_cast<size_t>(picture.width) *
@@ -38,9 +46,12 @@ FailedStep RunShpExport(const ImageClass& picture, const ShpExport& request,
                         const ExportProgress& progress) {
   ShpPalette palette;
   int32_t usedEntries = request.colours;
+  const bool oneFile = AreSameFile(request.shpPath, request.palettePath);
   if (request.paletteMode == kExistingPalette) {
     if (const FailedStep failed = ReadPalFile(request.palettePath, palette)) return failed;
+    if (oneFile) return "SHP file open error!";
   } else {
+    if (oneFile) return "Palette file create error!";
     usedEntries = GeneratePalette(picture, request.colours, palette);
   }
   progress(ExportStep::PaletteMade);

@@ -21,6 +21,7 @@ enum class ExportStep { PaletteMade, RowsMapped, DataWritten };
 using ExportProgress = std::function<void(ExportStep)>;
 
 // Writes the picture as a sprite file and, when it is generated, its palette. Unused entries of a
-// generated palette are black in the file and no pixel's colour. Throws std::bad_alloc.
+// generated palette are black in the file and no pixel's colour. One file for both is refused
+// before either would replace the other. Throws std::bad_alloc.
 FailedStep RunShpExport(const ImageClass& picture, const ShpExport& request,
                         const ExportProgress& progress);

@@ -25,7 +25,7 @@ bool CanDecode(FileType type);
 // arbitrary. False if the decoder objects or finds another size; `pixels` may then be half written.
 bool Decode(ByteView file, const Container& container, std::uint32_t* pixels);
 
-// Encodes into `file`, which is empty. A type that has no encoder becomes a BMP.
+// Encodes into `file`, which is empty; kUnknown becomes a BMP. False for a type without an encoder.
 bool Encode(FileType type, const std::uint32_t* pixels, std::int32_t width, std::int32_t height,
             Bytes* file);
 

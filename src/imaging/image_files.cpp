@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,15 @@ int LoadImageFile(const char* path, BitmapClass& surface) {
   if (surface.CreateFromPixels(pixels.get(), size.width, size.height)) return 1;
   surface.Free();
   return 0;
+}
+
+int TryLoadImageFile(const char* path, BitmapClass& surface) {
+  try {
+    return LoadImageFile(path, surface);
+  } catch (const std::bad_alloc&) {
+    surface.Free();
+    return 0;
+  }
 }
 
 int SaveImageFile(const char* path, const BitmapClass& surface) {

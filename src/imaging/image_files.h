@@ -18,5 +18,9 @@ void BuildImageFilter(const char* patterns, char (&filter)[256]);
 // empty, when the file can't be read or the surface not made. Throws std::bad_alloc.
 int LoadImageFile(const char* path, BitmapClass& surface);
 
+// The same for a file that a user names: a picture that memory can't hold is one that can't be
+// read.
+int TryLoadImageFile(const char* path, BitmapClass& surface);
+
 // Writes the surface in the format of the path's extension. The library's result, 0 on failure.
 int SaveImageFile(const char* path, const BitmapClass& surface);

@@ -34,9 +34,13 @@ constexpr size_t kLongestWord = 79;
 }  // namespace
 
 const std::string* IniSection::Find(std::string_view key) const {
-  const auto found = std::find_if(pairs.begin(), pairs.end(),
-                                  [key](const auto& pair) { return pair.first == key; });
-  return found == pairs.end() ? nullptr : &found->second;
+  const auto found = positions.find(key);
+  return found == positions.end() ? nullptr : &pairs[found->second].second;
+}
+
+void IniSection::Add(std::string_view key, std::string_view value) {
+  positions.try_emplace(std::string(key), pairs.size());
+  pairs.emplace_back(key, value);
 }
 
 bool IniClass::SetFileName(const char* path) {
@@ -59,14 +63,13 @@ void IniClass::ParseLine(std::string_view line) {
   line = TrimSpaces(WithoutComment(line));
   if (IsHeader(line)) {
     const std::string_view name = TrimSpaces(line.substr(1, line.size() - 2));
-    sections.push_back({std::string(name.substr(0, kLongestSectionName)), {}});
+    sections.push_back({std::string(name.substr(0, kLongestSectionName)), {}, {}});
   }
   // A header may hold an '=' and is a key line too then.
   const size_t equals = line.find('=');
   if (equals == std::string_view::npos || equals != line.rfind('=')) return;
   if (equals == 0 || equals == line.size() - 1 || sections.empty()) return;
-  sections.back().pairs.emplace_back(line.substr(0, std::min(equals, kLongestKey)),
-                                     line.substr(equals + 1));
+  sections.back().Add(line.substr(0, std::min(equals, kLongestKey)), line.substr(equals + 1));
 }
 
 void IniClass::Reset() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,7 +11,9 @@
 struct IniSection {
   std::string name;  // at most IniClass::kLongestSectionName characters
   std::vector<std::pair<std::string, std::string>> pairs;
+  std::map<std::string, size_t, std::less<>> positions;  // of each key's first pair
 
+  void Add(std::string_view key, std::string_view value);
   // The value of the first key of that name, null for none.
   const std::string* Find(std::string_view key) const;
 };

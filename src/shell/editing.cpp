@@ -17,25 +17,29 @@ int32_t StepSize() {
   return IsDown(VK_SHIFT) ? step * 2 : step;
 }
 
-// Past an edge a map goes on at its opposite edge itself, whatever the step.
-int32_t Wrap(int32_t position, int32_t size) {
-  if (position < 0) return size - 1;
-  return position > size - 1 ? 0 : position;
+// Past an edge a map goes on at its opposite edge itself, whatever the step. An offset that a
+// larger map has left behind comes back step by step.
+int32_t StepBack(int32_t position, int32_t step, int32_t size) {
+  return position < step ? size - 1 : position - step;
+}
+
+int32_t StepOn(int32_t position, int32_t step, int32_t size) {
+  return position + step > size - 1 ? 0 : position + step;
 }
 
 void MoveMap(WPARAM key, int32_t step, int32_t& x, int32_t& y, const ImageClass& map) {
   switch (key) {
     case VK_LEFT:
-      x = Wrap(x - step, map.width);
+      x = StepBack(x, step, map.width);
       break;
     case VK_RIGHT:
-      x = Wrap(x + step, map.width);
+      x = StepOn(x, step, map.width);
       break;
     case VK_UP:
-      y = Wrap(y - step, map.height);
+      y = StepBack(y, step, map.height);
       break;
     case VK_DOWN:
-      y = Wrap(y + step, map.height);
+      y = StepOn(y, step, map.height);
       break;
   }
 }

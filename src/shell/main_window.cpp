@@ -51,8 +51,10 @@ LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
     case WM_DESTROY:
       PostQuitMessage(0);
       return 0;
+    // While a dialog is open the window is disabled: what another program sends then would open a
+    // second dialog over the first.
     case WM_CLOSE:
-      return OnClose(window);
+      return IsWindowEnabled(window) ? OnClose(window) : 0;
     case WM_SIZE:
       LayOut(LOWORD(lParam), HIWORD(lParam));
       break;
@@ -60,7 +62,7 @@ LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
       HandleKey(wParam);
       break;
     case WM_COMMAND:
-      RunCommand(LOWORD(wParam));
+      if (IsWindowEnabled(window)) RunCommand(LOWORD(wParam));
       break;
   }
   return DefWindowProcA(window, message, wParam, lParam);

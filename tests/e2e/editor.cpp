@@ -192,6 +192,7 @@ void Editor::SaveAs(const std::string& path) const {
 
 void Editor::OpenPicture(const std::string& path) const {
   const HWND dialog = Dialog("Choose file to open");
+  EXPECT_EQ(State().hwndFocus, FindChild(dialog, "Edit")) << "what is typed is the name";
   EnterName(dialog, path.substr(0, path.rfind('\\')));
   Click(dialog, IDOK);
   HWND list = nullptr;

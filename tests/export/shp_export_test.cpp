@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <new>
 
+#include "support/allocations.h"
 #include "support/file_content.h"
 #include "support/temp_folder.h"
 #include "support/template_pictures.h"
@@ -120,6 +122,37 @@ TEST_F(ShpExportTest, EachFailureLeavesWhatWasWritten) {
     EXPECT_EQ(failure.shpSize, ReadContent(folder_.Path("b.shp")).size()) << failure.name;
     EXPECT_FALSE(std::filesystem::exists(folder_.Path("b.pal"))) << failure.name;
   }
+}
+
+TEST_F(ShpExportTest, OneFileForBothIsRefused) {
+  const std::string palette(768, '\7');
+  WriteContent(pal_, palette);
+  ASSERT_TRUE(SetCurrentDirectoryA(folder_.Path().c_str()));
+  for (const char* name : {"a.pal", "A.PAL", ".\\a.pal"}) {
+    shp_ = name;
+    const ImageClass picture = PlainPicture(2, 1, 1);
+    EXPECT_STREQ("Palette file create error!", Export(picture, kGeneratePalette, 2)) << name;
+    EXPECT_STREQ("SHP file open error!", Export(picture, kExistingPalette, 2)) << name;
+  }
+  SetCurrentDirectoryA("..");
+  EXPECT_EQ(palette, ReadContent(pal_));
+}
+
+TEST_F(ShpExportTest, RunningOutOfMemoryNeverLeavesAPaletteWithoutItsSprite) {
+  const ImageClass picture = PlainPicture(30, 20, 0x123456);
+  const auto exported = [&] {
+    try {
+      return Export(picture, kGeneratePalette, 16) == nullptr;
+    } catch (const std::bad_alloc&) {
+      return false;
+    }
+  };
+  const int failures = FailEachAllocation(exported, [&] {
+    const size_t expected = std::filesystem::remove(pal_) ? 632 : 0;
+    EXPECT_GE(ReadContent(shp_).size(), expected);
+  });
+  EXPECT_GT(failures, 3);
+  EXPECT_EQ(632U, ReadContent(shp_).size());
 }
 
 TEST_F(ShpExportTest, DataForAClosedFileIsAnError) {

@@ -69,10 +69,11 @@ TEST_F(ImageLibTest, ExtensionDecidesTheTypeThatIsWritten) {
     std::vector<const char*> names;
   } rows[] = {{"\x89PNG", {"a.png", "a.b.Png"}},
               {"\xFF\xD8", {"a.jpg", "a.JPEG"}},
-              {Readable("tif") ? "II*" : "BM", {"a.tif", "a.TIFF"}},
-              {"BM", {"a.bmp", "a.xyz", "a.gif", "a.png.", "a", "png"}}};
+              {"II*", {"a.tif", "a.TIFF"}},
+              {"BM", {"a.bmp", "a.xyz", "a.png.", "a", "png"}}};
   for (const auto& row : rows) {
     for (const std::string name : row.names) {
+      if (*row.magic == 'I' && !Readable("tif")) continue;
       EXPECT_NE(0, SavePicture(folder_.Path(name), Gradient(4, 4))) << name;
       EXPECT_EQ(0U, ReadContent(folder_.Path(name)).find(row.magic)) << name;
     }
@@ -131,7 +132,7 @@ TEST_F(ImageLibTest, SavingKeepsWhatIsThere) {
   ASSERT_NE(0, SavePicture(path_, Gradient(3, 3)));
   EXPECT_EQ("the user's", ReadContent(folder_.Path("~img00.tmp")));
   fs::create_directory(folder_.Path("folder.png"));
-  for (const char* name : {"none/x.png", "folder.png", ""}) {
+  for (const char* name : {"none/x.png", "folder.png", "", "picture.gif"}) {
     EXPECT_EQ(0, SavePicture(folder_.Path(name), Gradient(2, 2))) << name;
   }
   const std::vector<std::uint32_t> pixels(16385);

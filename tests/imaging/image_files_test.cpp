@@ -5,6 +5,7 @@
 #include "imagelib/imagelib.h"
 #include "imaging/dib_class.h"
 #include "imaging/image_class.h"
+#include "support/allocations.h"
 #include "support/surface_text.h"
 #include "support/temp_folder.h"
 
@@ -47,6 +48,13 @@ TEST(ImageFilesTest, BothKindsOfSurfaceAreSavedAndLoadedFromTheTopRow) {
   EXPECT_NE(0, SaveImageFile(path.c_str(), dib));
   EXPECT_EQ(1, LoadImageFile(path.c_str(), loadedImage));
   EXPECT_EQ(Rows("##|23|K4"), Drawn(loadedImage));
+  for (BitmapClass* surface : std::initializer_list<BitmapClass*>{&loadedImage, &loadedDib}) {
+    surface->Free();
+    const int failures =
+        FailEachAllocation([&] { return TryLoadImageFile(path.c_str(), *surface) == 1; },
+                           [&] { EXPECT_EQ(0, surface->valid) << "out of memory"; });
+    EXPECT_GE(failures, 1);
+  }
   ImageUnInit();
   imageFilter[0] = '\0';
 }

@@ -40,8 +40,11 @@ bool Encode(FileType type, const std::uint32_t* pixels, std::int32_t width, std:
       return EncodePng(pixels, width, height, file);
     case FileType::kJpeg:
       return EncodeJpeg(pixels, width, height, file);
-    default:
+    case FileType::kBmp:
+    case FileType::kUnknown:
       return EncodeBmp(pixels, width, height, file);
+    default:
+      return false;
   }
 }
 

@@ -5,12 +5,6 @@
 namespace imagelib {
 namespace {
 
-FileType EncodableType(FileType type) {
-  const bool encodable =
-      type == FileType::kPng || type == FileType::kJpeg || type == FileType::kTiff;
-  return encodable ? type : FileType::kBmp;
-}
-
 bool SetOption(IPropertyBag2* options, const wchar_t* name, VARIANT* value) {
   PROPBAG2 option{};
   option.pstrName = const_cast<wchar_t*>(name);
@@ -89,9 +83,11 @@ bool CopyOut(IStream* stream, Bytes* file) {
 
 bool Encode(FileType type, const std::uint32_t* pixels, std::int32_t width, std::int32_t height,
             Bytes* file) {
+  // A GIF's few colours would have to be chosen first.
+  if (type == FileType::kGif) return false;
   ComPointer<IStream> stream;
   return SUCCEEDED(CreateStreamOnHGlobal(nullptr, TRUE, stream.Receive())) &&
-         WritePicture(stream.Get(), EncodableType(type), pixels, static_cast<UINT>(width),
+         WritePicture(stream.Get(), type, pixels, static_cast<UINT>(width),
                       static_cast<UINT>(height)) &&
          CopyOut(stream.Get(), file);
 }

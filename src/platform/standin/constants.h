@@ -343,9 +343,11 @@
 #define OFN_ENABLESIZING 0x00800000
 #define CDM_GETFILEPATH 0x0465
 #define CDM_SETCONTROLTEXT 0x0468
+#define CDN_INITDONE 0xFFFFFDA7
 #define CDN_SELCHANGE 0xFFFFFDA6
 #define FNERR_BUFFERTOOSMALL 0x3003
 #define cmb13 0x047C
+#define edt1 0x0480
 
 // Clipboard, colours, cursors
 #define CF_BITMAP 2

@@ -163,6 +163,8 @@ BOOL WINAPI CloseHandle(HANDLE handle);
 DWORD WINAPI GetFileAttributesA(LPCSTR path);
 BOOL WINAPI SetCurrentDirectoryA(LPCSTR path);
 DWORD WINAPI GetCurrentDirectoryA(DWORD size, LPSTR buffer);
+DWORD WINAPI GetFullPathNameA(LPCSTR path, DWORD size, LPSTR buffer, LPSTR* fileName);
+int WINAPI lstrcmpiA(LPCSTR one, LPCSTR other);
 DWORD WINAPI GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
 HMODULE WINAPI GetModuleHandleA(LPCSTR name);
 DWORD WINAPI GetCurrentThreadId();

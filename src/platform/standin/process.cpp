@@ -68,4 +68,11 @@ DWORD GetCurrentDirectoryA(DWORD size, LPSTR buffer) {
   return CopyPath(std::filesystem::current_path().string(), buffer, size);
 }
 
+DWORD GetFullPathNameA(LPCSTR path, DWORD size, LPSTR buffer, LPSTR*) {
+  const std::filesystem::path native = standin::NativePath(path);
+  return CopyPath(std::filesystem::absolute(native).lexically_normal().string(), buffer, size);
+}
+
+int lstrcmpiA(LPCSTR one, LPCSTR other) { return strcasecmp(one, other); }
+
 LPSTR lstrcpyA(LPSTR target, LPCSTR source) { return std::strcpy(target, source); }
