@@ -6,8 +6,6 @@
 #include "platform/standin/functions.h"
 #endif
 
-#include <gtest/gtest.h>
-
 #include <cstddef>
 
 namespace {
@@ -24,14 +22,5 @@ static_assert(sizeof(BITMAPINFOHEADER) == 40 && sizeof(BITMAPINFO) == 44);
 static_assert(sizeof(LOGFONTA) == 60 && offsetof(LOGFONTA, lfFaceName) == 28);
 static_assert(sizeof(OPENFILENAMEA) == 152 && offsetof(OPENFILENAMEA, lpstrDefExt) == 104);
 static_assert(sizeof(OFNOTIFYA) == 40);
-
-TEST(Words, AreTakenApartAndPutTogether) {
-  EXPECT_EQ(LOWORD(0x12345678), 0x5678);
-  EXPECT_EQ(HIWORD(0x12345678), 0x1234);
-  EXPECT_EQ(MAKELONG(0xFFFF, 1), 0x1FFFF);
-  EXPECT_EQ(MAKEWPARAM(2, 0x8000), 0x80000002u);
-  EXPECT_EQ(MAKELPARAM(-1, 0), 0xFFFF);
-  EXPECT_EQ(RGB(1, 2, 3), 0x030201u);
-}
 
 }  // namespace

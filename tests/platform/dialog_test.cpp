@@ -121,13 +121,4 @@ TEST_F(Dialogs, GiveTheFocusBackToItsControlAfterABox) {
   EXPECT_EQ(Run(IDD_ADD_ITEM), 5);
 }
 
-TEST_F(Dialogs, EndWithTheThreadsQuitMessage) {
-  User user;
-  user.When("Select item", [](HWND) { PostQuitMessage(4); });
-  Run(IDD_SELECT_ITEM);
-  MSG message{};
-  EXPECT_FALSE(GetMessageA(&message, nullptr, 0, 0));
-  EXPECT_EQ(message.wParam, 4u);
-}
-
 }  // namespace

@@ -1,49 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "platform/win32.h"
+#include "imaging/dib_class.h"
+#include "imaging/memory_dc.h"
 
 namespace {
 
-// A picture in memory with its device context.
-class Picture {
- public:
-  Picture(int width, int height) : dc(CreateCompatibleDC(nullptr)) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    void* memory = nullptr;
-    bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
-    bits = static_cast<DWORD*>(memory);
-    before = SelectObject(dc, bitmap);
-  }
-  ~Picture() {
-    SelectObject(dc, before);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-  }
-  Picture(const Picture&) = delete;
-  Picture& operator=(const Picture&) = delete;
-
-  HDC dc;
-  HBITMAP bitmap = nullptr;
-  DWORD* bits = nullptr;
-  HGDIOBJ before = nullptr;
-};
-
 // Which column of the source each column of the target shows.
 std::string ColumnsOf(int width, int target) {
-  Picture from(width, 1), to(target, 1);
-  for (int i = 0; i < width; ++i) from.bits[i] = static_cast<DWORD>(i);
-  SetStretchBltMode(to.dc, COLORONCOLOR);
-  StretchBlt(to.dc, 0, 0, target, 1, from.dc, 0, 0, width, 1, SRCCOPY);
+  DIBClass from(width, 1), to(target, 1);
+  for (int i = 0; i < width; ++i) from.PutPixel(i, 0, static_cast<uint32_t>(i));
+  const MemoryDc dc(nullptr, to.bitmap);
+  SetStretchBltMode(dc.get(), COLORONCOLOR);
+  from.StretchTo(dc.get(), 0, 0, target, 1);
   std::string columns;
-  for (int i = 0; i < target; ++i) columns += std::to_string(to.bits[i] & 0xFFFFFF) + " ";
+  for (int i = 0; i < target; ++i) columns += std::to_string(to.ReadPixel(i, 0)) + " ";
   return columns;
 }
 
@@ -65,9 +35,10 @@ TEST(StretchBlt, PicksTheSourceColumnInProportion) {
 }
 
 TEST(SelectObject, KeepsABitmapInOneContext) {
-  Picture first(2, 2), second(2, 2);
-  EXPECT_EQ(SelectObject(second.dc, first.bitmap), nullptr);
-  EXPECT_EQ(SelectObject(second.dc, second.before), second.bitmap);
+  const DIBClass first(2, 2), second(2, 2);
+  const MemoryDc one(nullptr, first.bitmap), other(nullptr, second.bitmap);
+  EXPECT_EQ(SelectObject(other.get(), first.bitmap), nullptr);
+  EXPECT_EQ(SelectObject(other.get(), second.bitmap), second.bitmap);
 }
 
 }  // namespace

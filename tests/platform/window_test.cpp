@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "controls/control.h"
 #include "platform/message_log.h"
 #include "support/user.h"
@@ -8,12 +11,26 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TEST(Windows, AreBornAndSizedBeforeTheyAreShown) {
-  MessageLog log({WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE, WM_SHOWWINDOW});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 10, 20, 100, 50);
-  EXPECT_EQ(log.Take(),
-            (Lines{"1 NCCREATE", "1 CREATE", "1 SIZE 100x50", "1 MOVE 10,20", "1 SHOW"}));
-  EXPECT_TRUE(IsWindowVisible(window));
+TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
+  MessageLog log({WM_USER, WM_PAINT, WM_TIMER});
+  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
+  Settle();
+  log.Take();
+  SetTimer(window, 1, 10, nullptr);
+  InvalidateRect(window, nullptr, FALSE);
+  PostMessageA(window, WM_USER, 7, 0);
+  PostMessageA(window, WM_USER, 8, 0);
+  MSG message{};
+  // Until the timer is due as well.
+  for (int i = 0; i < 5; ++i) {
+    PeekMessageA(&message, nullptr, WM_USER + 1, WM_USER + 1, PM_REMOVE);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  for (int i = 0; i < 4; ++i) {
+    ASSERT_GT(GetMessageA(&message, nullptr, 0, 0), 0);
+    DispatchMessageA(&message);
+  }
+  EXPECT_EQ(log.Take(), (Lines{"1 USER 7", "1 USER 8", "1 PAINT", "1 TIMER"}));
 }
 
 TEST(Windows, OverlappedOnesLearnTheirSizeWhenFirstShown) {
@@ -27,36 +44,6 @@ TEST(Windows, OverlappedOnesLearnTheirSizeWhenFirstShown) {
   ShowWindow(window, SW_HIDE);
   ShowWindow(window, SW_SHOW);
   EXPECT_EQ(log.Take(), (Lines{"1 HIDE", "1 SHOW"}));
-}
-
-TEST(Windows, ChildrenHearOfDestructionAfterTheirParentAndAreFreedBeforeIt) {
-  MessageLog log({WM_DESTROY, WM_NCDESTROY});
-  const HWND parent = log.Create("1", WS_POPUP, 0, 0, 100, 100);
-  const HWND child = log.Create("2", WS_CHILD, 0, 0, 50, 50, parent, 7);
-  const HWND grandchild = log.Create("3", WS_CHILD, 0, 0, 20, 20, child);
-  EXPECT_TRUE(DestroyWindow(parent));
-  EXPECT_EQ(log.Take(), (Lines{"1 DESTROY", "2 DESTROY", "3 DESTROY", "3 NCDESTROY", "2 NCDESTROY",
-                               "1 NCDESTROY"}));
-  EXPECT_FALSE(IsWindow(child));
-  EXPECT_FALSE(IsWindow(grandchild));
-}
-
-TEST(Windows, StaleHandlesFailEveryCall) {
-  MessageLog log({});
-  const HWND window = log.Create("1", WS_POPUP, 0, 0, 10, 10);
-  DestroyWindow(window);
-  RECT rect{1, 2, 3, 4};
-  EXPECT_FALSE(IsWindow(window));
-  EXPECT_FALSE(GetClientRect(window, &rect));
-  EXPECT_EQ(rect.right, 3);
-  EXPECT_FALSE(SetWindowTextA(window, "x"));
-  EXPECT_FALSE(PostMessageA(window, WM_USER, 0, 0));
-  EXPECT_EQ(SetFocus(window), nullptr);
-  EXPECT_EQ(GetDC(window), nullptr);
-  EXPECT_EQ(GetDlgItem(window, 1), nullptr);
-  SetLastError(0);
-  EXPECT_EQ(GetWindowLongPtrA(window, GWL_STYLE), 0);
-  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
 }
 
 TEST(Windows, ArePaintedAnewWhenTheyAreResized) {
