@@ -91,20 +91,4 @@ TEST_F(OpenImageTest, PreviewFollowsTheSelection) {
   });
 }
 
-TEST_F(OpenImageTest, PreviewGrowsWithTheDialog) {
-  Open("", [](HWND dialog) {
-    EXPECT_NE(0, GetWindowLongPtrA(dialog, GWL_STYLE) & WS_MAXIMIZEBOX) << "it can be sized";
-    const HWND preview = FindChild(dialog, "ImagePreview");
-    const HWND pane = GetParent(preview);
-    for (const int height : {400, 110, 0}) {
-      SendMessageA(pane, WM_SIZE, SIZE_RESTORED, MAKELPARAM(500, height));
-      EXPECT_EQ(std::max(height - 120, 0), ClientSize(preview).cy);
-      EXPECT_EQ(210, ClientSize(preview).cx);
-      RECT frame{};
-      GetWindowRect(GetDlgItem(pane, IDC_OPEN_FRAME), &frame);
-      EXPECT_EQ(std::max(height - 100, 0), frame.bottom - frame.top);
-    }
-  });
-}
-
 }  // namespace

@@ -4,8 +4,6 @@
 
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 
 #include "document/shell_calls.h"
 #include "imagelib/imagelib.h"
@@ -99,30 +97,6 @@ TEST_F(TemplatesTest, PathOf260CharactersCountsAsMissing) {
   ImageUnInit();
   ASSERT_TRUE(Start());
   EXPECT_EQ(1, doc.worldMap2x.valid);
-}
-
-// The message goes to the standard error output, where the parent process looks for it.
-using DocumentDeathTest = DocumentTest;
-
-TEST_F(DocumentDeathTest, MissingSideTemplateEndsTheProcessAfterAMessage) {
-  const auto change = [this](void (*choose)(int32_t), int32_t choice) {
-    user.When("Error", [](HWND box) {
-      EnumChildWindows(
-          box,
-          [](HWND child, LPARAM) -> BOOL {
-            std::cerr << '[' << Text(child) << ']' << std::endl;
-            return TRUE;
-          },
-          0);
-      Press(box, IDOK);
-    });
-    choose(choice);
-  };
-  std::filesystem::remove(File("Templates/sov_worldmap.png"));
-  std::filesystem::remove(File("Templates/all_3icomain.png"));
-  const auto normally = testing::ExitedWithCode(0);
-  EXPECT_EXIT(change(SetSide, Soviet), normally, "\\[Can't find file!\\]");
-  EXPECT_EXIT(change(SetIconCount, 3), normally, "\\[Can't find file!\\]");
 }
 
 }  // namespace

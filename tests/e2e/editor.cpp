@@ -27,25 +27,13 @@ constexpr DWORD kKeysKept = 60;
 // A picture that stays so long shows the last of several keys.
 constexpr DWORD kHandled = 150;
 
-void Mouse(DWORD button) { mouse_event(button, 0, 0, 0, 0); }
-
-void MoveMouse(POINT to) {
-  SetCursorPos(to.x, to.y);
-  // The display's late answer to an earlier move may take the pointer back for a moment; a button
-  // released then is released beside what it pressed.
-  int settled = 0;
-  WaitUntil("the pointer to stay where it was moved", [&] {
-    POINT at{};
-    GetCursorPos(&at);
-    settled = at.x == to.x && at.y == to.y ? settled + 1 : 0;
-    return settled > 2;
-  });
-}
-
-void ClickAt(POINT point) {
-  MoveMouse(point);
-  Mouse(MOUSEEVENTF_LEFTDOWN);
-  Mouse(MOUSEEVENTF_LEFTUP);
+// Posted: what opens a window would not return before that is closed.
+void PostClick(HWND window, POINT (*place)(RECT client)) {
+  RECT client{};
+  GetClientRect(window, &client);
+  const POINT at = place(client);
+  PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+  PostMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
 }
 
 void BringToFront(HWND window) {
@@ -58,11 +46,7 @@ void BringToFront(HWND window) {
 
 // The field's id, and what it lies in, differ between the old and the new file dialogs, but it is
 // the first edit control of both.
-void EnterName(HWND dialog, const std::string& path) {
-  const HWND field = FindChild(dialog, "Edit");
-  if (!field) GiveUp("The file dialog has no field for a name.");
-  Paste(field, path);
-}
+void EnterName(HWND dialog, const std::string& path) { Paste(FindChild(dialog, "Edit"), path); }
 
 }  // namespace
 
@@ -139,14 +123,16 @@ void Editor::Tap(WORD key, int times, std::initializer_list<BYTE> held) const {
 }
 
 void Editor::Drag(POINT from, POINT to) const {
-  const RECT picture = PictureArea();
-  BringToFront(main_);
-  MoveMouse({picture.left + from.x, picture.top + from.y});
-  Mouse(MOUSEEVENTF_LEFTDOWN);
-  WaitUntil("the view to capture the mouse", [this] { return State().hwndCapture == view_; });
-  MoveMouse({picture.left + to.x, picture.top + to.y});
-  Mouse(MOUSEEVENTF_LEFTUP);
-  WaitUntil("the view to release the mouse", [this] { return State().hwndCapture != view_; });
+  const RECT picture = PictureArea(), view = ClientArea(view_);
+  const auto mouse = [&](UINT message, WPARAM buttons, POINT at) {
+    SendMessageA(view_, message, buttons,
+                 MAKELPARAM(picture.left - view.left + at.x, picture.top - view.top + at.y));
+  };
+  mouse(WM_LBUTTONDOWN, MK_LBUTTON, from);
+  EXPECT_EQ(view_, State().hwndCapture);
+  mouse(WM_MOUSEMOVE, MK_LBUTTON, to);
+  mouse(WM_LBUTTONUP, 0, to);
+  EXPECT_EQ(nullptr, State().hwndCapture);
 }
 
 HWND Editor::Dialog(const std::string& caption) const {
@@ -160,16 +146,9 @@ HWND Editor::Dialog(const std::string& caption) const {
 
 void Editor::Click(HWND dialog, int id) const {
   const HWND control = GetDlgItem(dialog, id);
-  POINT middle{};
-  // What lies there may be the group box around the control, which lets the click through. A window
-  // that has just come may still be moved to its place.
-  WaitUntil("control " + std::to_string(id) + " of \"" + Text(dialog) + "\" to lie open", [&] {
-    BringToFront(dialog);
-    const RECT area = ClientArea(control);
-    middle = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
-    return IsWindowEnabled(control) && GetAncestor(WindowFromPoint(middle), GA_ROOT) == dialog;
-  });
-  ClickAt(middle);
+  WaitUntil("control " + std::to_string(id) + " of \"" + Text(dialog) + "\" to take clicks",
+            [control] { return IsWindowEnabled(control) && IsWindowVisible(control); });
+  PostClick(control, [](RECT area) { return POINT{area.right / 2, area.bottom / 2}; });
 }
 
 void Editor::Close(HWND dialog, int button) const {
@@ -201,8 +180,7 @@ void Editor::OpenPicture(const std::string& path) const {
     return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 1;
   });
   // A click beside the only entry gives the list the keyboard.
-  const RECT area = ClientArea(list);
-  ClickAt({area.right - 20, area.bottom - 20});
+  PostClick(list, [](RECT area) { return POINT{area.right - 20, area.bottom - 20}; });
   WaitUntil("the list to have the keyboard", [&] { return State().hwndFocus == list; });
   TapKey(VK_HOME);
   TapKey(VK_SPACE);

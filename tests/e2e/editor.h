@@ -5,7 +5,7 @@
 
 #include "e2e/results.h"
 
-// The editor as a process of its own, worked with the real keyboard and mouse. What waits in vain
+// The editor as a process of its own, worked with the real keyboard and its messages. What waits in vain
 // fails the test. The process is ended at the latest with this object.
 //
 // Controls that neither open nor close a window may also be worked, and everything be read, with

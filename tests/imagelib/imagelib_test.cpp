@@ -164,12 +164,4 @@ TEST_F(ImageLibTest, WorksUntilTheLastUserLeaves) {
   EXPECT_EQ(Gradient(1, 1), LoadPicture(path_));
 }
 
-TEST(ImageLib, PatternListFitsTheFilterBuffer) {
-  const std::string list = ImageOpenFilterStr();
-  EXPECT_LE(list.size(), 109U);
-  EXPECT_EQ(0U, list.find("*.png;*.bmp;*.jpg;*.jpeg"));
-  EXPECT_EQ(std::string::npos, list.find(' '));
-  EXPECT_STRNE("", ImageGetDesc());
-}
-
 }  // namespace

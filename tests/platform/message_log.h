@@ -43,12 +43,9 @@ class MessageLog {
   // What has been written down since the last call.
   std::vector<std::string> Take() { return std::exchange(lines_, {}); }
 
-  bool paints = true;  // false: WM_PAINT is not handed on and the window stays invalid
-
  private:
   static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (current) current->Write(window, message, wParam, lParam);
-    if (current && message == WM_PAINT && !current->paints) return 0;
     return DefWindowProcA(window, message, wParam, lParam);
   }
 

@@ -38,29 +38,6 @@ TEST(StandIn, StopsWhereItWouldWaitForEver) {
   EXPECT_DEATH(GetMessageA(&message, nullptr, 0, 0), "would wait for ever");
 }
 
-TEST(StandIn, StopsAtAWindowThatIsNeverValidated) {
-  MessageLog log({});
-  log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
-  log.paints = false;
-  const auto loop = [] {
-    MSG message{};
-    while (GetMessageA(&message, nullptr, 0, 0)) DispatchMessageA(&message);
-  };
-  EXPECT_DEATH(loop(), "LogWindow never validates");
-}
-
-TEST(StandIn, StopsAtWhatItDoesNotCover) {
-  const HDC dc = CreateCompatibleDC(nullptr);
-  EXPECT_DEATH(BitBlt(dc, 0, 0, 1, 1, dc, 0, 0, 1), "SRCCOPY only");
-  EXPECT_DEATH(StretchBlt(dc, 0, 0, 2, 2, dc, 0, 0, 1, 1, SRCCOPY), "COLORONCOLOR only");
-  EXPECT_DEATH(LoadIconA(nullptr, "name"), "numbers, not names: name");
-  EXPECT_DEATH(ShowWindow(CreateWindowExA(0, "Static", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                                          nullptr, nullptr),
-                          99),
-               "ShowWindow command 99");
-  DeleteDC(dc);
-}
-
 // What the editor asks of the system and only the stand-in tells.
 class RequestTest : public EditorFixture {
  protected:

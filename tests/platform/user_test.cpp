@@ -5,15 +5,6 @@
 
 namespace {
 
-TEST(UserTest, FailsForAStepThatNeverRan) {
-  EXPECT_NONFATAL_FAILURE(
-      {
-        User user;
-        user.When("Select item", [](HWND) {});
-      },
-      "\"Select item\" never stood");
-}
-
 TEST(UserTest, FailsForAnotherTextAndIconThanExpected) {
   testing::TestPartResultArray failures;
   {

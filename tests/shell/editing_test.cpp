@@ -132,15 +132,6 @@ TEST_F(EditingTest, DragMovesTheGrabbedItem) {
   EXPECT_EQ(100, ItemX(0));
 }
 
-TEST_F(EditingTest, DragStopsAtThePicturesEdges) {
-  Add(100, 200);
-  Drag(119, 209, -3000, -500);
-  EXPECT_EQ(0, ItemX(0));
-  EXPECT_EQ(0, ItemY(0));
-  Drag(0, 0, 0, 2000);
-  EXPECT_EQ(508, ItemY(0)) << "the keys go one row further";
-}
-
 TEST_F(EditingTest, ClickBesideEveryItemUnselects) {
   Add(100, 200);
   SendMessageA(doc.viewWindow, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(105, 205));
