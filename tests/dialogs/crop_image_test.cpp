@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
-#include "controls/control.h"
 #include "dialogs/window_pixels.h"
 #include "support/editor_fixture.h"
 
@@ -123,27 +120,6 @@ TEST_F(CropImageTest, PreviewOutlinesTheRectangleThatAClickCentres) {
     EXPECT_EQ(0x404040U, WindowPixel(preview, 41, 10)) << "where the rectangle was";
     EXPECT_EQ("33", Text(dialog, IDC_CROP_X));
     EXPECT_EQ("14", Text(dialog, IDC_CROP_Y));
-  });
-}
-
-TEST_F(CropImageTest, PreviewTakesWhatTheFieldsAndButtonsLeave) {
-  Crop(PlainPicture(300, 280, 1), [](HWND dialog) {
-    const auto edges = [dialog](int id) {
-      RECT rect{};
-      GetWindowRect(id ? GetDlgItem(dialog, id) : dialog, &rect);
-      return rect;
-    };
-    std::set<LONG> below;
-    for (const SIZE size : {SIZE{700, 600}, SIZE{100, 100}, SIZE{1000, 500}}) {
-      SetWindowPos(dialog, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
-      const RECT preview = edges(IDC_CROP_PREVIEW), field = edges(IDC_CROP_Y), ok = edges(IDOK);
-      below.insert(edges(0).bottom - preview.bottom);
-      EXPECT_LT(preview.top, preview.bottom) << "no dialog is too small for it";
-      EXPECT_LT(preview.bottom, field.top);
-      EXPECT_LT(field.bottom, ok.top);
-      EXPECT_LT(ok.bottom, edges(0).bottom);
-    }
-    EXPECT_EQ(1U, below.size()) << "all grows with the dialog";
   });
 }
 

@@ -171,34 +171,4 @@ TEST_F(CompositionTest, OffsetBeyondTheMapDrawsNoMap) {
   }
 }
 
-// Templates of sizes that no one should make: nothing outside a surface is touched.
-class OddTemplatesTest : public EditorFixture, public testing::WithParamInterface<TemplateSizes> {
- protected:
-  TemplateSizes Sizes() const override { return GetParam(); }
-};
-
-TEST_P(OddTemplatesTest, EditorStaysInsideItsPictures) {
-  ImageClass image = PlainPicture(800, 520, 1);
-  for (const UINT mode : {IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP, IDM_MOVE_TARGET_BOX}) {
-    Command(mode);
-    for (const int key : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
-      const HoldKeys fast({VK_CONTROL, VK_SHIFT});
-      Key(key);
-    }
-  }
-  SetIconCount(3);
-  SetSide(Yuri);
-  ComposeLoadScreen(&image);
-  EXPECT_GE(doc.worldMapX, 0);
-  EXPECT_LT(doc.worldMapX, doc.worldMap.width);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    MapsFrameBoxAndOverlay, OddTemplatesTest,
-    testing::Values(TemplateSizes{{1, 1}, {1, 1}, {295, 289}, {60, 58}, {800, 520}},
-                    TemplateSizes{{1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}},
-                    TemplateSizes{{799, 519}, {280, 276}, {295, 289}, {60, 58}, {800, 520}},
-                    TemplateSizes{{900, 600}, {700, 500}, {10, 10}, {500, 400}, {800, 520}},
-                    TemplateSizes{{900, 600}, {700, 500}, {500, 510}, {60, 58}, {801, 521}}));
-
 }  // namespace

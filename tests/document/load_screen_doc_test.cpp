@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <filesystem>
 
 #include "document/shell_calls.h"
@@ -56,14 +55,6 @@ TEST_F(DocumentTest, CurrentSideAndImpossibleCountsReloadNothing) {
 class TemplatesTest : public EditorFixture {
  protected:
   void SetUp() override { WriteDefaultTemplates(); }
-
-  // Writes the path of the application folder so that it is so long.
-  static void LengthenAppDir(size_t length) {
-    std::string longer = doc.appDir;
-    while (longer.size() < length) longer += longer.back() == '.' ? "\\" : ".";
-    if (longer.back() == '.') longer.replace(longer.size() - 1, 1, "\\");
-    std::strcpy(doc.appDir, longer.c_str());
-  }
 };
 
 TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
@@ -84,19 +75,6 @@ TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
     ImageUnInit();
   }
   EXPECT_EQ(nullptr, FindWindowA(kMainClassName, nullptr));
-}
-
-// "Templates\com_largetargetbox.png" has 32 characters.
-TEST_F(TemplatesTest, PathOf260CharactersCountsAsMissing) {
-  const std::string folder = doc.appDir;
-  LengthenAppDir(228);
-  user.Answer("Corvanta", "Error: Can't find com_largetargetbox.png file.", MB_ICONHAND, IDOK);
-  EXPECT_FALSE(Start());
-  std::strcpy(doc.appDir, folder.c_str());
-  LengthenAppDir(227);
-  ImageUnInit();
-  ASSERT_TRUE(Start());
-  EXPECT_EQ(1, doc.worldMap2x.valid);
 }
 
 }  // namespace

@@ -32,16 +32,6 @@ Colours WeightedGreys() {
   return pixels;
 }
 
-// Eight pairs that differ in their last bit fill a tree of 16; the next colour is one too many. Its
-// own branch is the newest, which gains nothing, and then the last pair becomes one colour, rounded
-// down. What comes later goes into that colour, never below it.
-const Colours kPairsAndMore = {0x000000, 0x010101, 0x202020, 0x212121, 0x404040, 0x414141, 0x606060,
-                               0x616161, 0x808080, 0x818181, 0xA0A0A0, 0xA1A1A1, 0xC0C0C0, 0xC1C1C1,
-                               0xE0E0E0, 0xE1E1E1, 0x101010, 0xE1E1E1, 0xE1E1E1};
-const Colours kPairsMerged = {0x000000, 0x010101, 0x101010, 0x202020, 0x212121, 0x404040,
-                              0x414141, 0x606060, 0x616161, 0x808080, 0x818181, 0xA0A0A0,
-                              0xA1A1A1, 0xC0C0C0, 0xC1C1C1, 0xE0E0E0};
-
 const Colours kTenColours = {0xFFFFFF, 0x0000FF, 0x00FF00, 0xFF0000, 0x000000,
                              0x000001, 0x010000, 0x808080, 0x00FFFF, 0x7F7F7F};
 // The top bits of red, green and blue come first, then the next ones.
@@ -62,7 +52,6 @@ const Row kRows[] = {
     {"TreeOrder", kTenColours, 256, kTenInTreeOrder},
     {"CombinedByPixels", WeightedGreys(), 4, {0x202020, 0x5B5B5B, 0x999999, 0xD9D9D9}},
     {"UnevenGroups", {0, 0x101010, 0x202020, 0x303030, 0x404040}, 3, {0, 0x181818, 0x383838}},
-    {"NewestDeepestBranchMerges", kPairsAndMore, 16, kPairsMerged},
     {"Octants", {0xE0E0E0, 0xFFFFFF, 0, 0x101010, 0xC0}, 256, {0x080808, 0xC0, 0xEFEFEF}, 1},
     {"DepthIsCutToEight", kTenColours, 256, kTenInTreeOrder, 12},
     {"WholeWhitePicture", Colours(800 * 520, 0xFFFFFF), 1, {0xFFFFFF}},

@@ -51,18 +51,6 @@ TEST_F(ImageLibTest, PicturesComeBackWithoutTopBytes) {
   EXPECT_TRUE(large == LoadPicture(path_));
 }
 
-TEST_F(ImageLibTest, JpegKeepsThinColouredLines) {
-  if (Readable("tif"))
-    GTEST_SKIP() << "Wine's encoder does not keep to the options that it is given";
-  Picture picture(100, std::vector<std::uint32_t>(100));
-  for (std::size_t y = 0; y < 100; ++y) {
-    for (std::size_t x = 0; x < 100; ++x) picture[y][x] = (x * y + x / 3) % 2 ? 0xC02020 : 0x2020C0;
-  }
-  path_ = folder_.Path("picture.jpg");
-  ASSERT_NE(0, SavePicture(path_, picture));
-  EXPECT_LE(Distance(picture, LoadPicture(path_)), 12);
-}
-
 TEST_F(ImageLibTest, ExtensionDecidesTheTypeThatIsWritten) {
   const struct {
     const char* magic;

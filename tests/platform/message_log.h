@@ -53,12 +53,8 @@ class MessageLog {
     if (std::find(wanted_.begin(), wanted_.end(), message) == wanted_.end()) return;
     const auto number = [](auto value) { return std::to_string(value); };
     const std::map<UINT, std::string> texts = {
-        {WM_CREATE, "CREATE"},
         {WM_PAINT, "PAINT"},
-        {WM_ERASEBKGND, "ERASE"},
         {WM_TIMER, "TIMER"},
-        {WM_SHOWWINDOW, wParam ? "SHOW" : "HIDE"},
-        {WM_ENABLE, wParam ? "ENABLE" : "DISABLE"},
         {WM_USER, "USER " + number(wParam)},
         {WM_SIZE, "SIZE " + number(LOWORD(lParam)) + "x" + number(HIWORD(lParam))},
         {WM_COMMAND, "COMMAND " + number(LOWORD(wParam)) + " code " + number(HIWORD(wParam))}};

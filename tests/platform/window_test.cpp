@@ -33,19 +33,6 @@ TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
   EXPECT_EQ(log.Take(), (Lines{"1 USER 7", "1 USER 8", "1 PAINT", "1 TIMER"}));
 }
 
-TEST(Windows, OverlappedOnesLearnTheirSizeWhenFirstShown) {
-  MessageLog log({WM_CREATE, WM_SIZE, WM_SHOWWINDOW});
-  const HWND window = log.Create("1", WS_OVERLAPPEDWINDOW, 10, 20, 300, 200);
-  EXPECT_EQ(log.Take(), (Lines{"1 CREATE"}));
-  ShowWindow(window, SW_SHOWNORMAL);
-  const SIZE size = ClientSize(window);
-  EXPECT_EQ(log.Take(),
-            (Lines{"1 SHOW", "1 SIZE " + std::to_string(size.cx) + "x" + std::to_string(size.cy)}));
-  ShowWindow(window, SW_HIDE);
-  ShowWindow(window, SW_SHOW);
-  EXPECT_EQ(log.Take(), (Lines{"1 HIDE", "1 SHOW"}));
-}
-
 TEST(Windows, ArePaintedAnewWhenTheyAreResized) {
   MessageLog log({WM_PAINT});
   const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
@@ -56,29 +43,19 @@ TEST(Windows, ArePaintedAnewWhenTheyAreResized) {
   EXPECT_EQ(log.Take(), (Lines{"1 PAINT"}));
 }
 
-TEST(ScrollBars, ComeAndGoWithTheirRangeAndResizeTheWindow) {
+TEST(ScrollBars, ThatAreHiddenComeBackForAnotherRangeOnly) {
   MessageLog log({WM_SIZE});
   const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100);
   log.Take();
-  SetScrollRange(window, SB_HORZ, 0, 50, TRUE);
-  const LONG bar = 100 - ClientSize(window).cy;
-  EXPECT_GT(bar, 5);
-  EXPECT_EQ(log.Take(), (Lines{"1 SIZE 200x" + std::to_string(100 - bar)}));
-  SetScrollRange(window, SB_HORZ, 0, 60, TRUE);
-  EXPECT_EQ(log.Take(), Lines{});
-  SetScrollRange(window, SB_HORZ, 0, 0, TRUE);
-  EXPECT_EQ(log.Take(), (Lines{"1 SIZE 200x100"}));
   SetScrollRange(window, SB_VERT, 0, 10, TRUE);
+  const LONG bar = 200 - ClientSize(window).cx;
   EXPECT_EQ(log.Take(), (Lines{"1 SIZE " + std::to_string(200 - bar) + "x100"}));
   ShowScrollBar(window, SB_VERT, FALSE);
   EXPECT_EQ(log.Take(), (Lines{"1 SIZE 200x100"}));
-  // The range that the hidden bar has already does not bring it back.
   SetScrollRange(window, SB_VERT, 0, 10, TRUE);
   EXPECT_EQ(log.Take(), Lines{});
-  ShowScrollBar(window, SB_VERT, TRUE);
-  EXPECT_EQ(log.Take().size(), 1u);
-  SetScrollPos(window, SB_VERT, 99, TRUE);
-  EXPECT_EQ(GetScrollPos(window, SB_VERT), 10);
+  SetScrollRange(window, SB_VERT, 0, 20, TRUE);
+  EXPECT_EQ(log.Take().size(), 1U);
 }
 
 COLORREF PixelAt(HWND window, int x, int y) {
@@ -86,27 +63,6 @@ COLORREF PixelAt(HWND window, int x, int y) {
   const COLORREF colour = GetPixel(dc, x, y);
   ReleaseDC(window, dc);
   return colour;
-}
-
-TEST(Painting, HappensOncePerInvalidationAndOnlyWhenVisible) {
-  MessageLog log({WM_PAINT, WM_ERASEBKGND});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 100, 100, 60, 40);
-  Settle();
-  log.Take();
-  InvalidateRect(window, nullptr, FALSE);
-  InvalidateRect(window, nullptr, FALSE);
-  Settle();
-  EXPECT_EQ(log.Take(), (Lines{"1 PAINT"}));
-  InvalidateRect(window, nullptr, TRUE);
-  UpdateWindow(window);
-  EXPECT_EQ(log.Take(), (Lines{"1 PAINT", "1 ERASE"}));
-  UpdateWindow(window);
-  Settle();
-  EXPECT_EQ(log.Take(), Lines{});
-  ShowWindow(window, SW_HIDE);
-  InvalidateRect(window, nullptr, TRUE);
-  Settle();
-  EXPECT_EQ(log.Take(), Lines{});
 }
 
 TEST(Painting, IsKeptInsideTheInvalidPart) {

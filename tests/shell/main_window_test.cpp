@@ -135,13 +135,4 @@ TEST_F(MainWindowTest, EditorEndsOnlyOnYes) {
   EXPECT_EQ(0U, message.wParam);
 }
 
-TEST(StartUpTest, AppDirIsTheProgramsFolder) {
-  char program[MAX_PATH] = "";
-  GetModuleFileNameA(nullptr, program, MAX_PATH);
-  FindAppDir();
-  const std::string path = program;
-  EXPECT_EQ(path.substr(0, path.rfind('\\') + 1), doc.appDir);
-  doc = LoadScreenDoc();
-}
-
 }  // namespace

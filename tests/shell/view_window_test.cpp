@@ -81,24 +81,6 @@ TEST_F(ViewTest, ScrollBarsMoveTheirOwnDirection) {
   EXPECT_EQ(1U, CanvasPixel(0, 0)) << "the end of scrolling shows nothing new";
 }
 
-TEST_F(ViewTest, GrowingViewKeepsTheEndInSight) {
-  SizeView(600, 400);
-  Scroll(WM_HSCROLL, SB_RIGHT);
-  Scroll(WM_VSCROLL, SB_BOTTOM);
-  const std::pair<SIZE, POINT> sizes[] = {{{600, 400}, {200, 120}},
-                                          {{700, 450}, {100, 70}},
-                                          {{1000, 600}, {0, 0}},
-                                          {{600, 400}, {0, 0}}};
-  for (const auto& [size, scrolled] : sizes) {
-    SizeView(size.cx, size.cy);
-    EXPECT_EQ(scrolled.x, doc.viewScrollX);
-    EXPECT_EQ(scrolled.y, doc.viewScrollY);
-    if (size.cx > 800) continue;  // no bar is shown
-    EXPECT_EQ(scrolled.x, GetScrollPos(doc.viewWindow, SB_HORZ));
-    EXPECT_EQ(scrolled.y, GetScrollPos(doc.viewWindow, SB_VERT));
-  }
-}
-
 // What PaintView puts onto a device context.
 TEST_F(ViewTest, PaintShowsTheVisiblePartAtItsOffset) {
   DIBClass screen(1000, 600);
