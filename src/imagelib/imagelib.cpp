@@ -1,9 +1,10 @@
 #include "imagelib/imagelib.h"
 
+#include <algorithm>
 #include <exception>
-#include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "imagelib/codecs.h"
 #include "imagelib/container.h"
@@ -17,7 +18,11 @@ using imagelib::Container;
 struct Library {
   int users = 0;
   // ImageLoad is not told how much room its buffer has; this is what the caller allocated by.
-  std::map<std::string, ImageSize> reported;
+  struct Report {
+    std::string path;
+    ImageSize size;
+  };
+  std::vector<Report> reported;
 };
 
 Library& State() {
@@ -49,19 +54,21 @@ std::optional<PictureFile> OpenPicture(const char* path) {
 }
 
 bool GetSize(const char* path, ImageSize* size) {
-  State().reported.erase(path);
+  std::erase_if(State().reported, [path](const auto& report) { return report.path == path; });
   const std::optional<PictureFile> picture = OpenPicture(path);
   if (!picture) return false;
   const ImageSize found{picture->container.width, picture->container.height};
-  State().reported[path] = found;
+  State().reported.push_back({path, found});
   *size = found;
   return true;
 }
 
 bool Load(const char* path, std::uint32_t* pixels) {
-  const auto reported = State().reported.find(path);
-  if (reported == State().reported.end()) return false;
-  const ImageSize room = reported->second;
+  const auto& reports = State().reported;
+  const auto report = std::find_if(reports.begin(), reports.end(),
+                                   [path](const auto& known) { return known.path == path; });
+  if (report == reports.end()) return false;
+  const ImageSize room = report->size;
   const std::optional<PictureFile> picture = OpenPicture(path);
   if (!picture || picture->container.width != room.width ||
       picture->container.height != room.height) {

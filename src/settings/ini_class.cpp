@@ -33,13 +33,19 @@ constexpr size_t kLongestWord = 79;
 
 }  // namespace
 
+std::vector<size_t>::const_iterator IniSection::PlaceOf(std::string_view key) const {
+  return std::lower_bound(
+      firsts.begin(), firsts.end(), key,
+      [this](size_t i, std::string_view wanted) { return pairs[i].first < wanted; });
+}
+
 const std::string* IniSection::Find(std::string_view key) const {
-  const auto found = positions.find(key);
-  return found == positions.end() ? nullptr : &pairs[found->second].second;
+  const auto place = PlaceOf(key);
+  return place != firsts.end() && pairs[*place].first == key ? &pairs[*place].second : nullptr;
 }
 
 void IniSection::Add(std::string_view key, std::string_view value) {
-  positions.try_emplace(std::string(key), pairs.size());
+  if (!Find(key)) firsts.insert(PlaceOf(key), pairs.size());
   pairs.emplace_back(key, value);
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -11,11 +9,14 @@
 struct IniSection {
   std::string name;  // at most IniClass::kLongestSectionName characters
   std::vector<std::pair<std::string, std::string>> pairs;
-  std::map<std::string, size_t, std::less<>> positions;  // of each key's first pair
+  std::vector<size_t> firsts;  // the first pair of each key, in the order of the keys
 
   void Add(std::string_view key, std::string_view value);
   // The value of the first key of that name, null for none.
   const std::string* Find(std::string_view key) const;
+
+ private:
+  std::vector<size_t>::const_iterator PlaceOf(std::string_view key) const;
 };
 
 // Reader of a plain text settings file: sections in brackets, "key=value" lines below them,

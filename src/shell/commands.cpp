@@ -28,7 +28,14 @@ void ToggleStatusBar() {
   LayOutMainWindow();
 }
 
-void OpenHelp() { ShellExecuteA(doc.mainWindow, "open", "TAMOVI.CHM", nullptr, nullptr, SW_SHOW); }
+// The name is looked for in the current folder, which file dialogs change.
+void OpenHelp() {
+  char current[MAX_PATH] = "";
+  GetCurrentDirectoryA(MAX_PATH, current);
+  SetCurrentDirectoryA(doc.appDir);
+  ShellExecuteA(doc.mainWindow, "open", "TAMOVI.CHM", nullptr, nullptr, SW_SHOW);
+  SetCurrentDirectoryA(current);
+}
 
 struct Command {
   UINT id;

@@ -81,6 +81,11 @@ TEST_F(ShpOptionsTest, NumberOfColoursStaysFrom1To256) {
       Type(dialog, IDC_SHP_COLOURS, number);
       EXPECT_STREQ(kept, Text(dialog, IDC_SHP_COLOURS).c_str()) << number;
     }
+    Type(dialog, IDC_SHP_COLOURS, "");
+    for (const char digit : {'6', '4'}) {
+      SendDlgItemMessageA(dialog, IDC_SHP_COLOURS, WM_CHAR, static_cast<WPARAM>(digit), 1);
+    }
+    EXPECT_EQ("64", Text(dialog, IDC_SHP_COLOURS)) << "the correction is typed over";
   });
 }
 

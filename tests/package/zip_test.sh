@@ -13,6 +13,12 @@ program=$(find "$unpacked" -name Corvanta.exe)
 [ -n "$program" ] || fail "there is no Corvanta.exe in the zip"
 for file in "$program" "${program%/*}/ImageLib.dll"; do
   if grep -q debug_info "$file"; then fail "$file carries debug symbols"; fi
+  headers=$(x86_64-w64-mingw32-objdump -p "$file")
+  for needed in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT 'Virtual Address: .* Chunk size'; do
+    grep -q "$needed" <<<"$headers" || fail "$file is built without $needed"
+  done
+  x86_64-w64-mingw32-nm "$build/bin/${file##*/}" | grep -q stack_chk_fail ||
+    fail "$file does not watch its stack"
 done
 
 # run_editor PROGRAM RESULTS: the part of the end-to-end test that exports.

@@ -55,7 +55,10 @@ class RequestTest : public EditorFixture {
 };
 
 TEST_F(RequestTest, HelpOpensTheManual) {
+  SetCurrentDirectoryA(AppPath("Templates").c_str());
   ExpectOpened([this] { Command(IDM_HELP); }, "open", "TAMOVI.CHM", SW_SHOW);
+  EXPECT_EQ(File(""), standin::LastShellRequest().current + "/");
+  EXPECT_EQ("Templates", std::filesystem::current_path().filename()) << "as file dialogs left it";
 }
 
 TEST_F(RequestTest, LinkOpensTheWebPage) {

@@ -55,6 +55,10 @@ TEST_F(EditingTest, KeysMoveTheModesMapAndWrapToItsEdges) {
       {"other key", VK_TAB, {}, 10, 20, 10, 20},
   };
   ExpectMoves(keys, doc.worldMapX, doc.worldMapY, {900, 600});
+  ExpectMoves({{"left from beyond the map", VK_LEFT, {}, 950, 20, 949, 20},
+               {"up from beyond the map", VK_UP, {VK_CONTROL}, 10, 700, 10, 695},
+               {"right from beyond the map", VK_RIGHT, {}, 950, 20, 0, 20}},
+              doc.worldMapX, doc.worldMapY, {});
   EXPECT_EQ(std::pair(232, 103), std::pair(doc.worldMap2xX, doc.worldMap2xY));
   Command(IDM_MOVE_LARGE_MAP);
   doc.worldMapX = doc.worldMapY = 0;

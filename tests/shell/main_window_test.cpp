@@ -53,7 +53,12 @@ TEST_F(MainWindowTest, MenuOpensEveryDialog) {
                                         {"Screenshot settings...", "Screen shot settings"},
                                         {"About", "About Corvanta"}}) {
     WithDialog(
-        dialog, [this, command = command] { Choose(command); }, [](HWND) {});
+        dialog, [this, command = command] { Choose(command); },
+        [this](HWND) {
+          // What another program sends meanwhile would open a second dialog, and end the editor.
+          Command(IDM_ADD_ITEM);
+          SendMessageA(doc.mainWindow, WM_CLOSE, 0, 0);
+        });
     EXPECT_EQ(0U, user.StepsLeft()) << command;
   }
 }

@@ -1,4 +1,6 @@
 // What reaches beyond the program: the clipboard and ShellExecuteA.
+#include <filesystem>
+
 #include "platform/standin/failure.h"
 #include "platform/standin/testing.h"
 #include "platform/standin/window.h"
@@ -60,7 +62,14 @@ HINSTANCE ShellExecuteA(HWND window, LPCSTR verb, LPCSTR file, LPCSTR parameters
                         INT show) {
   const auto text = [](LPCSTR given) { return std::string(given ? given : ""); };
   const int count = LastRequest().count + 1;
-  LastRequest() = {count, window, text(verb), text(file), text(parameters), text(directory), show};
+  LastRequest() = {count,
+                   window,
+                   text(verb),
+                   text(file),
+                   text(parameters),
+                   text(directory),
+                   show,
+                   std::filesystem::current_path().string()};
   // Anything above 32 means that it worked.
   return reinterpret_cast<HINSTANCE>(static_cast<INT_PTR>(33));
 }

@@ -13,6 +13,7 @@ struct ShellRequest {
   HWND window = nullptr;
   std::string verb, file, parameters, directory;
   int show = 0;
+  std::string current;  // the current folder
 };
 const ShellRequest& LastShellRequest();
 
