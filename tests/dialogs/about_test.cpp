@@ -34,17 +34,6 @@ TEST_F(AboutTest, ShowsTheReadmeAndALargeTitle) {
   WithDialog(kCaption, IDM_ABOUT, expectEmpty);
 }
 
-TEST_F(AboutTest, LinkTakesAddressesOf255Characters) {
-  WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
-    const auto setAddress = [dialog](const std::string& address) {
-      return SendDlgItemMessageA(dialog, IDC_ABOUT_LINK, LM_SETADDRESS,
-                                 reinterpret_cast<WPARAM>(address.c_str()), 0);
-    };
-    EXPECT_EQ(1, setAddress(std::string(255, 'a')));
-    EXPECT_EQ(0, setAddress(std::string(256, 'b')));
-  });
-}
-
 TEST_F(AboutTest, ReadmeCannotBeChangedOnlyWalkedThrough) {
   WithDialog(kCaption, IDM_ABOUT, [](HWND dialog) {
     const HWND readme = GetDlgItem(dialog, IDC_ABOUT_README);

@@ -10,10 +10,9 @@ namespace {
 constexpr char kCaption[] = "Select item";
 using Lines = std::vector<std::string>;
 
-class SelectItemTest : public EditorFixture {
- protected:
-  static void AddItemAt(int32_t x, int32_t y) { AddItem(PlainPicture(6, 4, 0x102030), x, y, 0); }
-};
+using SelectItemTest = EditorFixture;
+
+void AddItemAt(int32_t x, int32_t y) { AddItem(PlainPicture(6, 4, 0x102030), x, y, 0); }
 
 TEST_F(SelectItemTest, LineSelectsItsItemAtOnce) {
   WithDialog(kCaption, IDM_SELECT_ITEM, [](HWND dialog) {

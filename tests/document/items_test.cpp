@@ -8,32 +8,6 @@ namespace {
 
 using Order = std::vector<int32_t>;
 
-Order Positions(const ItemListClass& list) {
-  Order positions;
-  for (int32_t i = 0; i < list.Count(); ++i) positions.push_back(list.At(i).x);
-  return positions;
-}
-
-TEST(ItemListTest, KeepsCopiesInTheOrderOfAddingAndADummyOutside) {
-  ItemListClass list;
-  ItemClass item;
-  item.image = PlainPicture(3, 2, 7);
-  for (item.x = 1; item.x <= 4; ++item.x) list.Add(item);
-  list.At(1).image.Fill(9);
-  EXPECT_EQ(7U, list.At(0).image.ReadPixel(2, 1));
-  EXPECT_EQ(9U, list.At(1).image.ReadPixel(2, 1));
-  for (const int32_t index : {-1, 4, INT32_MAX, INT32_MIN}) {
-    EXPECT_EQ(&list.dummy, &list.At(index)) << index;
-    list.Remove(index);
-  }
-  EXPECT_EQ(Order({1, 2, 3, 4}), Positions(list));
-  const std::pair<int32_t, Order> removals[] = {{1, {1, 3, 4}}, {2, {1, 3}}, {0, {3}}, {0, {}}};
-  for (const auto& [index, left] : removals) {
-    list.Remove(index);
-    EXPECT_EQ(left, Positions(list));
-  }
-}
-
 // Items of 20 x 10 pixels.
 class ItemsTest : public EditorFixture {
  protected:
@@ -68,26 +42,6 @@ TEST_F(ItemsTest, SelectMarksOneItemAndEnablesDelete) {
   EXPECT_EQ(0x111111U, CanvasPixel(0, 400)) << "shown at once";
 }
 
-TEST_F(ItemsTest, DeleteRemovesTheSelectedItemOnly) {
-  Command(IDM_DELETE_ITEM);
-  for (int i = 0; i < 3; ++i) Add(100 * i, 400);
-  SelectItem(5);
-  for (int i = 0; i < 2; ++i) Command(IDM_DELETE_ITEM);
-  EXPECT_EQ(3, doc.items.Count()) << "nothing is selected";
-  SelectItem(1);
-  Command(IDM_DELETE_ITEM);
-  EXPECT_EQ(Order({0, 200}), Positions(doc.items));
-  EXPECT_EQ(std::pair(Order({0, 0}), -1), Selection());
-  EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM)) << "items remain";
-  EXPECT_EQ(WorldMapPixel(Allied, 100, 400), CanvasPixel(100, 400)) << "shown at once";
-  for (int i = 0; i < 2; ++i) {
-    SelectItem(0);
-    Command(IDM_DELETE_ITEM);
-  }
-  EXPECT_EQ(0, doc.items.Count());
-  EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
-}
-
 TEST_F(ItemsTest, HitTestReachesOnePixelBeyondAndTakesTheFirst) {
   Add(100, 200);
   Add(300, 300);
@@ -101,28 +55,6 @@ TEST_F(ItemsTest, HitTestReachesOnePixelBeyondAndTakesTheFirst) {
                 {"on both", 115, 207, 0},        {"on the third", 125, 212, 2},
                 {"on the second", 300, 300, 1}};
   for (const auto& point : points) EXPECT_EQ(point.hit, HitTest(point.x, point.y)) << point.name;
-}
-
-TEST_F(ItemsTest, MoveStopsAtTheDragLimits) {
-  Add(100, 200);
-  AddItem(PlainPicture(801, 521, 1), 0, 0, 0);
-  const struct {
-    const char* name;
-    int32_t item, x, y, itemX, itemY;
-  } moves[] = {{"inside", 0, 5, 6, 5, 6},
-               {"left and up", 0, -7, -8, 0, 0},
-               {"last right", 0, 779, 6, 779, 6},
-               {"past the right", 0, 780, 6, 779, 6},
-               {"last row", 0, 5, 509, 5, 509},
-               {"past the bottom", 0, 5, 510, 5, 508},
-               {"larger than the picture", 1, 5, 5, -2, -3},
-               {"no item", 2, 5, 5, 0, 0},
-               {"nothing", -1, 5, 5, 0, 0}};
-  for (const auto& move : moves) {
-    MoveItemTo(move.item, move.x, move.y);
-    EXPECT_EQ(move.itemX, ItemX(move.item)) << move.name;
-    EXPECT_EQ(move.itemY, ItemY(move.item)) << move.name;
-  }
 }
 
 }  // namespace

@@ -5,11 +5,9 @@
 
 #include "e2e/results.h"
 
-// The editor as a process of its own, worked with the real keyboard and its messages. What waits in vain
-// fails the test. The process is ended at the latest with this object.
-//
-// Controls that neither open nor close a window may also be worked, and everything be read, with
-// support/user.h.
+// The editor as a process of its own, worked with the real keyboard and its messages. What waits in
+// vain fails the test. The process is ended at the latest with this object. Controls that open and
+// close no window are worked, and everything is read, with support/user.h.
 class Editor {
  public:
   explicit Editor(const std::string& executable = EditorPath());
@@ -27,7 +25,7 @@ class Editor {
 
   // Chooses a command as the menu would.
   void Command(UINT id) const;
-  // Presses a key so many times with others held, until the picture has changed and stays.
+  // Presses a key so many times with others held, until the picture has changed.
   void Tap(WORD key, int times = 1, std::initializer_list<BYTE> held = {}) const;
   // Drags from one point of the picture to another.
   void Drag(POINT from, POINT to) const;
@@ -38,12 +36,11 @@ class Editor {
   void Click(HWND dialog, int id) const;
   // Clicks a button that closes the dialog.
   void Close(HWND dialog, int button) const;
-  // Expects a message box with exactly this text and presses the button.
+  // Expects a message box with exactly this text.
   void Answer(const std::string& caption, const std::string& text, int button) const;
   // Saves under the path in the system's dialog.
   void SaveAs(const std::string& path) const;
-  // Goes to the folder of the picture, which is alone there, in the Open dialog, picks it in the
-  // list, waits for the preview and confirms.
+  // Picks the picture, which is alone in its folder, in the list of the Open dialog.
   void OpenPicture(const std::string& path) const;
 
   bool IsRunning() const;

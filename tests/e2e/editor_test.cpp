@@ -78,23 +78,6 @@ TEST(CoreTest, SavesTheSamePictureInEveryFormatAfterStartUp) {
   ExportSprite(editor, "start", 256);
 }
 
-TEST(CloseTest, AsksAndEndsOnlyOnYes) {
-  const std::string question = "Do you want to close Corvanta now?\nAll data won't be saved!";
-  Editor editor;
-  editor.WaitForPicture();
-  editor.Command(IDM_VIEW_TOP_LAYER);
-  const DIBClass before = editor.ShownPicture();
-  editor.Command(IDM_EXIT);
-  editor.Answer("Corvanta", question, IDNO);
-  EXPECT_EQ(Difference(before, editor.ShownPicture()), "");
-  {
-    const HoldKeys alt({VK_MENU});
-    TapKey(VK_F4);
-  }
-  editor.Answer("Corvanta", question, IDYES);
-  EXPECT_EQ(editor.WaitForExit(), 0u);
-}
-
 TEST(MissingTemplateTest, IsToldAndEndsTheEditor) {
   const struct {
     const char *file, *caption, *text;

@@ -7,10 +7,9 @@
 #include "imaging/image_class.h"
 
 // Looks again and again until the condition holds. After a minute in vain it throws
-// std::runtime_error with what was waited for and the name of a picture of the screen, which fails
-// the test.
+// std::runtime_error with what was waited for, which fails the test.
 void WaitUntil(const std::string& what, const std::function<bool()>& condition);
-// Fails in the same way, at once.
+// Throws that at once.
 [[noreturn]] void GiveUp(const std::string& why);
 
 // The executable under test: that of CORVANTA_E2E_EXE, otherwise the one beside this program.
@@ -27,8 +26,7 @@ void SaveResult(const std::string& name, const BitmapClass& picture);
 
 // Copies an area of a device context.
 DIBClass CopyPixels(HDC source, const RECT& area);
-// What stands in an area of the screen, as far as it lies on it, once it has not changed for so
-// many milliseconds: windows are painted after they appear.
+// What stands in an area of the screen once it has not changed for so many milliseconds.
 DIBClass CaptureScreen(const RECT& area, DWORD settled = 60);
 // Saves the picture of a window as screen-<name>.png among the results.
 void Screenshot(HWND window, const std::string& name);

@@ -47,14 +47,11 @@ struct Row {
 };
 
 const Row kRows[] = {
-    {"NoPixel", {}, 4, {}},
     {"OneColour", {0xFF123456, 0x00123456, 0x12123456}, 256, {0x123456}},
     {"TreeOrder", kTenColours, 256, kTenInTreeOrder},
     {"CombinedByPixels", WeightedGreys(), 4, {0x202020, 0x5B5B5B, 0x999999, 0xD9D9D9}},
     {"UnevenGroups", {0, 0x101010, 0x202020, 0x303030, 0x404040}, 3, {0, 0x181818, 0x383838}},
     {"Octants", {0xE0E0E0, 0xFFFFFF, 0, 0x101010, 0xC0}, 256, {0x080808, 0xC0, 0xEFEFEF}, 1},
-    {"DepthIsCutToEight", kTenColours, 256, kTenInTreeOrder, 12},
-    {"WholeWhitePicture", Colours(800 * 520, 0xFFFFFF), 1, {0xFFFFFF}},
 };
 
 // As one row and, since the order of the pixels counts, as the column of a bottom-up bitmap.

@@ -12,8 +12,7 @@
 
 #include "fuzz/fuzz_target.h"
 
-// Faults that a sanitizer sees end the process by the signal that is caught here, once it has said
-// what it knows.
+// Faults that a sanitizer sees end the process by the signal that is caught here.
 extern "C" const char* __asan_default_options() {
   return "abort_on_error=1:allow_user_segv_handler=0";
 }

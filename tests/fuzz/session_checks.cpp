@@ -1,5 +1,3 @@
-#include "fuzz/session_checks.h"
-
 #include <algorithm>
 
 #include "document/composition.h"

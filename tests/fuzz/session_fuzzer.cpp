@@ -4,11 +4,19 @@
 #include <utility>
 
 #include "fuzz/fuzz_target.h"
-#include "fuzz/session_checks.h"
 #include "platform/standin/testing.h"
 #include "support/editor_fixture.h"
 #include "support/file_content.h"
 #include "support/find_window.h"
+
+// What the editor promises at any moment; in session_checks.cpp. A broken promise ends the process.
+
+// The document's and the view's fields are within their ranges and fit together and what the menu
+// and the scroll bars show.
+void CheckDocument();
+
+// The picture is composed the same way twice, and `shown` in the view already. Repaints the view.
+void CheckComposition(bool shown);
 
 namespace {
 

@@ -34,17 +34,4 @@ TEST(ScreenshotAdjustmentTest, ChangesEveryPixel) {
   EXPECT_EQ(0x12345678U, Darken(0x12345678, 256));
 }
 
-TEST(PixelColourTest, ColoursAreExchangedAndReplaced) {
-  EXPECT_EQ(0x0C0B0AU, SwapRedBlue(0xFF0A0B0C));
-  const Legend legend = {{'.', 0}, {'2', 2}, {'a', 0xFFFF00}, {'b', 0x01FFFF00}};
-  ImageClass picture;
-  AdjustColours(picture, {});
-  ReplaceColor(picture, 0, 1);
-  EXPECT_FALSE(IsValid(picture));
-  Draw(picture, "ab.|aab", legend);
-  EXPECT_TRUE(IsValid(picture));
-  ReplaceColor(picture, 0xFFFF00, 2);
-  EXPECT_EQ(Rows("2b.|22b"), Drawn(picture, legend)) << "all 32 bits are compared";
-}
-
 }  // namespace

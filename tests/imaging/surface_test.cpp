@@ -102,23 +102,6 @@ TYPED_TEST(SurfaceTest, DrawsThesePixels) {
   }
 }
 
-TYPED_TEST(SurfaceTest, HoldsPixelsFromCreateToFree) {
-  TypeParam surface;
-  EXPECT_TRUE(surface.Create(7, 3));
-  EXPECT_EQ(std::tuple(1, 7, 3), std::tuple(surface.valid, surface.width, surface.height));
-  EXPECT_EQ(std::tuple(4, 28), std::tuple(surface.PixelBytes(), surface.RowBytes()));
-  EXPECT_EQ((std::is_same_v<TypeParam, DIBClass>), surface.IsDIB());
-  EXPECT_EQ(0U, surface.ReadPixel(6, 2));
-  surface.Fill(0x80102030);
-  EXPECT_EQ(0x80102030, surface.ReadPixel(6, 2));
-  surface.InvertFrame(6, 2, 1, 1);
-  EXPECT_EQ(0xCFDFEFU, surface.ReadPixel(6, 2)) << "red and blue are exchanged";
-  for (int i = 0; i < 2; ++i) surface.Free();
-  EXPECT_EQ(std::tuple(0, 0, 0), std::tuple(surface.valid, surface.width, surface.height));
-  EXPECT_FALSE(surface.Create(4, -1));
-  EXPECT_EQ(0, surface.valid);
-}
-
 TYPED_TEST(SurfaceTest, PixelsAreReachedInsideOnly) {
   const uint32_t pixels[] = {1, 2, 0, 0, 3, 4};
   TypeParam surface;
@@ -133,42 +116,6 @@ TYPED_TEST(SurfaceTest, PixelsAreReachedInsideOnly) {
   EXPECT_EQ(nullptr, surface.Row(2));
   EXPECT_EQ(nullptr, surface.Row(-1));
   EXPECT_EQ(Rows("#2.|.34"), Drawn(surface));
-}
-
-TYPED_TEST(SurfaceTest, CopiesHaveTheirOwnPixels) {
-  TypeParam surface, assigned;
-  Draw(surface, "#2|34");
-  Draw(assigned, "4");
-  TypeParam copy(surface);
-  assigned = surface;
-  surface.Fill(0);
-  const TypeParam& itself = copy;
-  copy = itself;
-  EXPECT_EQ(Rows("#2|34"), Drawn(copy));
-  EXPECT_EQ(Rows("#2|34"), Drawn(assigned));
-  copy = TypeParam();
-  EXPECT_EQ(std::tuple(0, 0), std::tuple(copy.valid, copy.width));
-}
-
-TEST(DibClassTest, ArrivesInADeviceContext) {
-  DIBClass source, target;
-  Draw(source, "#23|4#2");
-  EXPECT_EQ(4U, source.bits[0]) << "the bottom row comes first";
-  const auto shown = [&target](const std::function<void(HDC)>& show) {
-    target.Free();
-    Draw(target, kNothing);
-    const MemoryDc dc(nullptr, target.bitmap);
-    SetStretchBltMode(dc.get(), COLORONCOLOR);
-    show(dc.get());
-    return Drawn(target);
-  };
-  EXPECT_EQ(Rows("......|.#23..|.4#2..|......"), shown([&](HDC dc) { source.BlitTo(dc, 1, 1); }));
-  EXPECT_EQ(Rows("...23.|......|......|......"),
-            shown([&](HDC dc) { source.BlitRegionTo(dc, 3, 0, 1, 0, 2, 1); }));
-  EXPECT_EQ(Rows("......|#2....|......|......"),
-            shown([&](HDC dc) { source.BlitRegionTo(dc, 0, 1, 1, 1, 300, 9); }));
-  EXPECT_EQ(Rows("##2233|##2233|44##22|44##22"),
-            shown([&](HDC dc) { source.StretchTo(dc, 0, 0, 6, 4); }));
 }
 
 }  // namespace

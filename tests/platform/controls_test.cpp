@@ -39,14 +39,4 @@ TEST_F(Controls, ListsSortWithoutCaseAndTellAClickWhenTheButtonComesUp) {
   EXPECT_EQ(Selected(parent_, 100), 1);
 }
 
-TEST_F(Controls, AProgressBarStartsOverPastItsEnd) {
-  const HWND bar = Add(PROGRESS_CLASSA, 0);
-  SendMessageA(bar, PBM_SETRANGE, 0, MAKELPARAM(0, 3));
-  SendMessageA(bar, PBM_SETSTEP, 1, 0);
-  for (const int position : {1, 2, 3, 1}) {
-    SendMessageA(bar, PBM_STEPIT, 0, 0);
-    EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), position);
-  }
-}
-
 }  // namespace

@@ -134,19 +134,10 @@ TEST_F(EditingTest, DragMovesTheGrabbedItem) {
   EXPECT_EQ(310, ItemX(1)) << "the drag is over";
   EXPECT_EQ(1, doc.selectedItem) << "the item stays selected";
   EXPECT_EQ(100, ItemX(0));
-}
-
-TEST_F(EditingTest, ClickBesideEveryItemUnselects) {
-  Add(100, 200);
-  SendMessageA(doc.viewWindow, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(105, 205));
-  EXPECT_EQ(-1, doc.selectedItem) << "the second press of a double click does nothing";
-  ClickCanvas(105, 205);
-  EXPECT_EQ(0, doc.selectedItem);
-  EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
-  ClickCanvas(50, 50);
-  EXPECT_EQ(-1, doc.selectedItem);
-  EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
-  EXPECT_EQ(nullptr, GetCapture());
+  Drag(315, 348, -3000, -500);
+  EXPECT_EQ(std::pair(0, 0), std::pair(ItemX(1), ItemY(1))) << "stops at the picture's edges";
+  Drag(5, 8, 5, 2000);
+  EXPECT_EQ(508, ItemY(1)) << "the keys go one row further";
 }
 
 TEST_F(EditingTest, LostCaptureOrItemEndsTheDrag) {
@@ -177,7 +168,7 @@ TEST_F(EditingTest, ClickOnACentredOrScrolledViewFindsItsItem) {
   SendMessageA(doc.viewWindow, WM_HSCROLL, MAKELONG(SB_THUMBPOSITION, 150), 0);
   SendMessageA(doc.viewWindow, WM_VSCROLL, MAKELONG(SB_THUMBPOSITION, 60), 0);
   Click(doc.viewWindow, 149, 340);
-  EXPECT_EQ(-1, doc.selectedItem);
+  EXPECT_EQ(-1, doc.selectedItem) << "beside every item";
   Click(doc.viewWindow, 150, 340);
   EXPECT_EQ(0, doc.selectedItem);
 }

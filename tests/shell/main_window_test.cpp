@@ -59,20 +59,7 @@ TEST_F(MainWindowTest, MenuOpensEveryDialog) {
           Command(IDM_ADD_ITEM);
           SendMessageA(doc.mainWindow, WM_CLOSE, 0, 0);
         });
-    EXPECT_EQ(0U, user.StepsLeft()) << command;
   }
-}
-
-TEST_F(MainWindowTest, StartsWithItsMarksAndTexts) {
-  EXPECT_EQ("Corvanta 1.1", Text(doc.mainWindow));
-  EXPECT_EQ(1, doc.animateAboutBox);
-  EXPECT_TRUE(IsCommandChecked(IDM_STATUS_BAR) && IsCommandChecked(IDM_MOVE_SMALL_MAP));
-  EXPECT_TRUE(IsCommandChecked(IDM_VIEW_TOP_LAYER) && IsCommandChecked(IDM_VIEW_BOTTOM_LAYER));
-  EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
-  EXPECT_EQ("Allied - 2", StatusText(0));
-  EXPECT_EQ("Current mode: Move small map", StatusText(1));
-  EXPECT_EQ("Press CTRL to move map faster(5x) or press CTRL+SHIFT to move map faster (10x)",
-            StatusText(2));
 }
 
 TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
@@ -83,25 +70,6 @@ TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
     Choose(text);
     EXPECT_EQ(std::string("Current mode: ") + text, StatusText(1));
     for (const auto& mode : modes) EXPECT_EQ(mode.first == chosen, IsCommandChecked(mode.first));
-  }
-}
-
-TEST_F(MainWindowTest, LayerCommandsToggleOneLayerEach) {
-  const struct {
-    const char* command;
-    uint32_t inFrame, beside;  // what the picture shows then
-    bool top, bottom;
-  } steps[] = {
-      {"View top layer", WorldMapPixel(Allied, 500, 52), WorldMapPixel(Allied, 9, 9), false, true},
-      {"View bottom layer", 0, 0, false, false},
-      {"View top layer", FramePixel(154, 0), 0, true, false},
-      {"View bottom layer", FramePixel(154, 0), WorldMapPixel(Allied, 9, 9), true, true}};
-  for (const auto& step : steps) {
-    Choose(step.command);
-    EXPECT_EQ(step.inFrame, CanvasPixel(500, 52));
-    EXPECT_EQ(step.beside, CanvasPixel(9, 9));
-    EXPECT_EQ(step.top, IsCommandChecked(IDM_VIEW_TOP_LAYER));
-    EXPECT_EQ(step.bottom, IsCommandChecked(IDM_VIEW_BOTTOM_LAYER));
   }
 }
 

@@ -41,14 +41,6 @@ TEST_F(SaveAsImageTest, WritesThePictureInTheChosenFormat) {
   }
 }
 
-TEST_F(SaveAsImageTest, ProposesThePathOfTheLastTime) {
-  Save(AppPath("saved.png"));
-  std::filesystem::remove(File("saved.png"));
-  user.When("Save As", [](HWND dialog) { Press(dialog, IDOK); });
-  EXPECT_NE(0, SaveAsImage());
-  EXPECT_TRUE(std::filesystem::exists(File("saved.png")));
-}
-
 TEST_F(SaveAsImageTest, PathThatNoFileCanHaveIsNotProposed) {
   for (const char* path :
        {"a*b.png", "what?.png", "a\"b.png", "a<b>.png", "a|b.png", "none:", "folder\\"}) {

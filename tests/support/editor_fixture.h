@@ -32,21 +32,18 @@ class EditorFixture : public testing::Test {
   void WriteDefaultTemplates();
   bool Start();
 
-  // Path of a file of the application folder as the editor writes it, e.g.
-  // "Templates\\sym_star.png".
+  // Path of a file of the application folder with backslashes, as the editor writes it.
   std::string AppPath(const std::string& name) const { return folder_.Path() + "\\" + name; }
-  // The same for the test's own file access, which wants "Templates/sym_star.png".
+  // The same for the test's own file access, with slashes.
   std::string File(const std::string& name) const { return folder_.Path(name); }
   // Writes "Settings.ini" of the application folder.
   void WriteSettings(const std::string& text);
-  // Writes a picture into the application folder, in the format of its name's extension, and gives
-  // its whole path.
+  // Saves a picture in the application folder and gives its whole path.
   std::string WritePng(const std::string& name, const BitmapClass& picture);
 
   // Chooses a command of the menu.
   void Command(UINT id);
-  // Opens a dialog, by a command of the menu or otherwise, and does the step in it. The dialog is
-  // left by its Cancel or Close button unless the step has ended it.
+  // Opens a dialog and does the step in it. Cancel leaves it unless the step has ended it.
   void WithDialog(const std::string& caption, UINT command, const std::function<void(HWND)>& step);
   void WithDialog(const std::string& caption, const std::function<void()>& open,
                   const std::function<void(HWND)>& step);

@@ -5,8 +5,7 @@
 
 #include "imaging/image_class.h"
 
-// The template pictures that the tests give the editor. Every pixel tells which picture it is from
-// and where it stood there, so that a composed picture can be read back.
+// The templates that the tests give the editor. Every pixel tells its picture and its place there.
 
 struct PictureSize {
   int32_t width;

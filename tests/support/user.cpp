@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr UINT kTickTime = 10;  // milliseconds
+constexpr UINT kTickTime = 10;   // milliseconds
+constexpr int kPatience = 1000;  // of them
 constexpr int kMostMessages = 10000;
 
 HWND Standing(const std::string& caption) {
@@ -56,7 +57,7 @@ void TapInControl(HWND control, WPARAM key) {
 
 User* User::current = nullptr;
 
-User::User(int patience) : timer_(SetTimer(nullptr, 0, kTickTime, Tick)), patience_(patience) {
+User::User() : timer_(SetTimer(nullptr, 0, kTickTime, Tick)) {
   EXPECT_EQ(current, nullptr) << "two users at once";
   current = this;
 }
@@ -80,7 +81,7 @@ void User::Tick(HWND, UINT, UINT_PTR, DWORD) {
     const Step step = std::move(steps.front());
     steps.pop_front();
     step.action(window);
-  } else if (++current->idleTicks_ == current->patience_) {
+  } else if (++current->idleTicks_ == kPatience) {
     current->GiveUp();
   }
 }

@@ -10,22 +10,18 @@
 
 #include "platform/win32.h"
 
-// A script of what the user does, played by a timer of this thread, so that it runs inside whatever
-// loop waits: a dialog's, a message box's, the main window's.
+// A script of what the user does, played by a timer of this thread inside whatever loop waits:
 //
 //   User user;
 //   user.When("Select item", [](HWND dialog) { Press(dialog, IDCANCEL); });
-//   user.Answer("Corvanta", "Nothing there!", MB_ICONEXCLAMATION, IDOK);
 //   OpenTheDialog();  // returns once the script has closed it
 //
-// Steps run in the order given, each one as soon as its window is there, visible and enabled, and
-// nothing else is to be done. A step may press a button that opens a further window: the next step
-// then runs inside it. When nothing happens for as many timer ticks of 10 ms as the user has
-// patience, the test fails with the windows that stand, and every loop is ended. The destructor
-// fails the test for steps that never ran.
+// Steps run in the order given, each as soon as its window can be worked. A step may open a further
+// window, in which the next step runs. When nothing happens for ten seconds the test fails with the
+// windows that stand, and every loop is ended. The destructor fails it for steps that never ran.
 class User {
  public:
-  explicit User(int patience = 1000);
+  User();
   ~User();
   User(const User&) = delete;
   User& operator=(const User&) = delete;
@@ -41,9 +37,6 @@ class User {
   // Puts the path into the common file dialog with that caption and presses its OK button.
   void ChooseFile(const std::string& caption, const std::string& path);
 
-  // Steps that have not run yet.
-  size_t StepsLeft() const { return steps_.size(); }
-
  private:
   struct Step {
     std::string caption;
@@ -56,25 +49,21 @@ class User {
   static User* current;
   std::deque<Step> steps_;
   UINT_PTR timer_;
-  int patience_;
   int idleTicks_ = 0;
 };
 
-// Everything below fails the test, and does nothing, when the control is missing, hidden or
-// disabled.
+// All of these fail the test, and do nothing, when the control is missing, hidden or disabled.
 
 // Clicks a button, check box or radio button.
 void Press(HWND dialog, int id);
-// Replaces an edit control's text by typing: the whole text is selected, then each character
-// arrives.
+// Replaces an edit control's text by typing.
 void Type(HWND dialog, int id, const std::string& text);
 // Picks the entry at that position of a list box or drop-down list with the keyboard; its owner is
 // notified once.
 void Choose(HWND dialog, int id, int position);
 // Moves a trackbar to the position with the keyboard; its parent gets WM_HSCROLL.
 void Slide(HWND dialog, int id, int position);
-// Presses and releases a key in the window, or, when the window is or stands in a dialog, in that
-// dialog's keyboard handling first (Tab, Enter, Escape). Characters are Type's business.
+// Presses and releases a key in the window, its dialog's keyboard handling first (Tab, Escape).
 void PressKey(HWND window, int virtualKey);
 // Clicks the left button at a client position of the window.
 void Click(HWND window, int x, int y);
