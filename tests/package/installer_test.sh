@@ -15,7 +15,7 @@ zip=$(make_package ZIP)
 install() { wine_run "$setup" /S /D=C:\\$folder_name; }
 
 install
-diff -r -x Uninstall.exe "$build"/package-test/unpacked/* "$programs" ||
+diff -r -x Uninstall.exe -x Installed.ini "$build"/package-test/unpacked/* "$programs" ||
   fail "the installer and the zip bring different files"
 menu=$(find "$CORVANTA_WINE_PREFIX/drive_c" -path '*Start Menu*' -name Corvanta.lnk)
 [ -n "$menu" ] || fail "no entry in the Start menu"

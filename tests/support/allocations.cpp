@@ -21,6 +21,9 @@ AllocationsLeft::AllocationsLeft(int count) { left = count; }
 AllocationsLeft::~AllocationsLeft() { left = kUnlimited; }
 
 void* operator new(size_t size) { return Allocate(size); }
+void* operator new[](size_t size, const std::nothrow_t&) noexcept {
+  return left == 0 ? nullptr : std::malloc(size);
+}
 void* operator new[](size_t size) { return Allocate(size); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }

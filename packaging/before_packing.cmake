@@ -1,12 +1,13 @@
-# Run by CPack before it packs the collected files: names them to the uninstaller, and says what is
-# missing.
+# Run by CPack before it packs the collected files: names them to the installer, but for the settings,
+# which it treats on their own, and says what is missing.
 file(GLOB_RECURSE packed RELATIVE ${CPACK_TEMPORARY_DIRECTORY} ${CPACK_TEMPORARY_DIRECTORY}/*)
-set(deletions "")
+list(REMOVE_ITEM packed Settings.ini)
+set(lines "")
 foreach(name IN LISTS packed)
-  string(REPLACE "/" "\\" installed "${name}")
-  string(APPEND deletions "!insertmacro DeleteUnchanged \"${installed}\" \"${name}\"\n")
+  string(REPLACE "/" "\\" name "${name}")
+  string(APPEND lines "!insertmacro \${FOR_FILE} \"${name}\"\n")
 endforeach()
-file(WRITE ${CPACK_TOPLEVEL_DIRECTORY}/delete_unchanged.nsh "${deletions}")
+file(WRITE ${CPACK_TOPLEVEL_DIRECTORY}/files.nsh "${lines}")
 
 if(NOT EXISTS ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/TAMOVI.CHM)
   message(WARNING "The package has no manual: chmcmd (Debian package fp-utils) is missing.")
