@@ -24,6 +24,7 @@ build_packages=(cmake ninja-build g++-mingw-w64-x86-64 wine wine64)
 # The manual's compiler and the installer's.
 package_packages=(fp-utils nsis)
 artwork_packages=(python3-numpy python3-scipy python3-pil)
+fuzz_packages=(clang libclang-rt-14-dev)
 native_packages=(g++ libpng-dev libjpeg-dev libgtest-dev libgmock-dev googletest)
 # Without common fonts Wine takes a wide one, which cuts the dialogs' texts.
 display_packages=(xvfb xauth openbox x11-utils fonts-liberation)

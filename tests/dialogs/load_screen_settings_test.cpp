@@ -51,26 +51,6 @@ TEST_F(LoadScreenSettingsTest, OpensWithTheDocumentsChoices) {
   EXPECT_EQ("Yuri - 3", StatusText(0)) << "opening and closing changes nothing";
 }
 
-TEST_F(LoadScreenSettingsTest, ArrowKeysChooseSideAndIconCountAtOnce) {
-  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {
-    const struct {
-      int from, key;
-      const char* status;
-      Side side;
-    } steps[] = {{IDC_SETTINGS_ALLIED, VK_UP, "Yuri - 2", Yuri},
-                 {IDC_SETTINGS_TWO, VK_UP, "Yuri - 3", Yuri},
-                 {IDC_SETTINGS_YURI, VK_DOWN, "Allied - 3", Allied},
-                 {IDC_SETTINGS_ALLIED, VK_DOWN, "Soviet - 3", Soviet},
-                 {IDC_SETTINGS_THREE, VK_DOWN, "Soviet - 2", Soviet}};
-    for (const auto& step : steps) {
-      SetFocus(GetDlgItem(dialog, step.from));
-      PressKey(GetFocus(), step.key);
-      EXPECT_EQ(step.status, StatusText(0));
-      EXPECT_EQ(WorldMapPixel(step.side, 5, 7), CanvasPixel(5, 7)) << step.status;
-    }
-  });
-}
-
 TEST_F(LoadScreenSettingsTest, ChosenIconsAreShownAndRemembered) {
   WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {
     EXPECT_TRUE(IsChecked(dialog, IDC_SETTINGS_TWO));

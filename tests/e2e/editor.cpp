@@ -128,6 +128,15 @@ void Editor::Drag(POINT from, POINT to) const {
     SendMessageA(view_, message, buttons,
                  MAKELPARAM(picture.left - view.left + at.x, picture.top - view.top + at.y));
   };
+  // The system tells the pointer's own place as well when windows come and go under it.
+  const POINT end{picture.left + to.x, picture.top + to.y};
+  SetCursorPos(end.x, end.y);
+  WaitUntil("the pointer to stay where it was moved", [&end, settled = 0]() mutable {
+    POINT at{};
+    GetCursorPos(&at);
+    settled = at.x == end.x && at.y == end.y ? settled + 1 : 0;
+    return settled > 2 || at.y < end.y;  // the screen ends before some places
+  });
   mouse(WM_LBUTTONDOWN, MK_LBUTTON, from);
   EXPECT_EQ(view_, State().hwndCapture);
   mouse(WM_MOUSEMOVE, MK_LBUTTON, to);

@@ -1,16 +1,22 @@
 // Runs a fuzz target where there is no libFuzzer:
 //
-//   fuzz_picture [RUNS [FIRST]]   runs the inputs number FIRST (0) and on
+//   fuzz_picture [RUNS [FIRST [FOLDER]]]   runs the inputs number FIRST (0) and on
 //
-// Every input follows from its number alone. A fault ends the process after a line that says how to
-// run its input again.
+// An input is a file of the folder with some changes, or random bytes where there is none, and
+// follows from its number alone. A fault ends the process after a line that says how to run it
+// again.
 #include <unistd.h>
 
 #include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <random>
+#include <set>
+#include <string>
+#include <vector>
 
 #include "fuzz/fuzz_target.h"
+#include "support/file_content.h"
 
 // Faults that a sanitizer sees end the process by the signal that is caught here.
 extern "C" const char* __asan_default_options() {
@@ -50,16 +56,25 @@ std::vector<uint8_t> MakeInput(const std::vector<std::string>& seeds, uint64_t n
   return {input.begin(), input.end()};
 }
 
+// In the order of their names.
+std::vector<std::string> FilesOf(const char* folder) {
+  std::set<std::string> names;
+  for (const auto& file : std::filesystem::directory_iterator(folder)) names.insert(file.path());
+  std::vector<std::string> contents;
+  for (const std::string& name : names) contents.push_back(ReadContent(name));
+  return contents;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   for (const int signal : {SIGABRT, SIGSEGV}) std::signal(signal, OnFault);
   const uint64_t runs = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1000;
   const uint64_t first = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 0;
-  const std::vector<std::string> seeds = FuzzSeeds();
+  const std::vector<std::string> seeds = argc > 3 ? FilesOf(argv[3]) : std::vector<std::string>();
   for (uint64_t number = first; number < first + runs; ++number) {
-    std::snprintf(runAgain, sizeof runAgain, "Failed; run it again with: %s 1 %llu\n", argv[0],
-                  static_cast<unsigned long long>(number));
+    std::snprintf(runAgain, sizeof runAgain, "Failed; run it again with: %s 1 %llu %s\n", argv[0],
+                  static_cast<unsigned long long>(number), argc > 3 ? argv[3] : "");
     const std::vector<uint8_t> input = MakeInput(seeds, number);
     LLVMFuzzerTestOneInput(input.data(), input.size());
   }

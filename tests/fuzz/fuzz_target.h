@@ -4,16 +4,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
-#include <vector>
 
 // What each fuzz target provides to libFuzzer or to fuzz_main.cpp.
 
 // Runs the target once on any bytes. Returns 0; a fault ends the process.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
-// Good inputs, which fuzz_main.cpp changes. None: its inputs are random bytes.
-std::vector<std::string> FuzzSeeds();
 
 // Ends the process when a promise is broken.
 inline void Require(bool promise, const char* what) {

@@ -10,7 +10,6 @@
 #include "support/file_content.h"
 #include "support/picture_difference.h"
 #include "support/temp_folder.h"
-#include "support/template_pictures.h"
 
 namespace {
 
@@ -67,29 +66,6 @@ void CheckPicture(const std::string& path, const ImageSize& size) {
 }
 
 }  // namespace
-
-std::vector<std::string> FuzzSeeds() {
-  using namespace std::string_literals;
-  // TIFF and GIF are walked through here too, but decoded on Windows only.
-  std::vector<std::string> seeds = {
-      "GIF89a\3\0\2\0\x80\0\0\0\0\0\xFF\xFF\xFF!\xFE\2Hi\0,\0\0\0\0\3\0\2\0\0\2\3\x84\x0F\5\0;"s,
-      "II*\0\x8\0\0\0\4\0"                                      // four fields
-      "\0\1\3\0\1\0\0\0\3\0\0\0\1\1\3\0\1\0\0\0\2\0\0\0"        // 3 x 2 pixels
-      "\x11\1\4\0\1\0\0\0\x3E\0\0\0\x17\1\4\0\1\0\0\0\6\0\0\0"  // in one strip
-      "\0\0\0\0pixels"s,
-      "BM\x46\0\0\0\0\0\0\0\x3E\0\0\0\x28\0\0\0\3\0\0\0\2\0\0\0"    // 3 x 2 pixels
-      "\1\0\x8\0\0\0\0\0\x8\0\0\0\0\0\0\0\0\0\0\0\2\0\0\0\0\0\0\0"  // of two colours
-      "\1\2\3\0\4\5\6\0\0\1\0\0\1\0\1\0"s,
-      "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\xFF\xFF\xFF\xFF"  // 2 x 1, top-down
-      "\1\0\x20\0\0\0\0\0\x8\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0PIXELS!!"s};
-  const ImageClass picture = MakePicture(
-      19, 7, [](int32_t x, int32_t y) { return static_cast<uint32_t>(x << 19 | y << 12 | x * y); });
-  for (const char* name : {"seed.png", "seed.bmp", "seed.jpg"}) {
-    Require(SaveImageFile(Folder().Path(name).c_str(), picture), "a picture can be saved");
-    seeds.push_back(ReadContent(Folder().Path(name)));
-  }
-  return seeds;
-}
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::string bytes(reinterpret_cast<const char*>(data), size);

@@ -262,8 +262,6 @@ class Session : public EditorFixture {
 
 }  // namespace
 
-std::vector<std::string> FuzzSeeds() { return {}; }
-
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // A failed expectation of the test support ends the process here, where no test counts it.
   GTEST_FLAG_SET(throw_on_failure, true);

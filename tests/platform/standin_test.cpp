@@ -84,32 +84,5 @@ TEST_F(RequestTest, UnusedKeyBeepsWhileAnItemIsSelected) {
   EXPECT_EQ(standin::BeepCount(), beeps + 1);
 }
 
-// The whole life of an editor, from an empty process to an empty process.
-class Session : public EditorFixture {
- public:
-  void Live() {
-    SetUp();
-    WriteSettings("[CameosList]\n[SymbolsList]\n");
-    user.When("About Corvanta", [](HWND about) { Press(about, IDCANCEL); });
-    Command(IDM_ABOUT);
-    user.When("Load screen settings", [](HWND settings) { Press(settings, IDCANCEL); });
-    Command(IDM_LOAD_SCREEN_SETTINGS);
-    user.When("Add new item", [](HWND add) { Press(add, IDCANCEL); });
-    Command(IDM_ADD_ITEM);
-    Command(IDM_COPY);
-    TearDown();
-  }
-
- private:
-  void TestBody() override {}
-};
-
-TEST(StandIn, SessionLeavesNoGdiObjects) {
-  Session().Live();
-  const size_t before = standin::LiveGdiObjects();
-  Session().Live();
-  EXPECT_EQ(standin::LiveGdiObjects(), before);
-}
-
 }  // namespace
 #endif

@@ -7,25 +7,37 @@ namespace {
 
 constexpr int kUnlimited = -1;
 int left = kUnlimited;
+size_t live = 0;
 
-void* Allocate(size_t size) {
+void* TryAllocate(size_t size) noexcept {
   void* const memory = left == 0 ? nullptr : std::malloc(size ? size : 1);
-  if (!memory) throw std::bad_alloc();
-  if (left > 0) --left;
+  if (memory) ++live;
+  if (memory && left > 0) --left;
   return memory;
 }
 
+void* Allocate(size_t size) {
+  if (void* const memory = TryAllocate(size)) return memory;
+  throw std::bad_alloc();
+}
+
+void Release(void* memory) noexcept {
+  if (memory) --live;
+  std::free(memory);
+}
+
 }  // namespace
+
+size_t LiveAllocations() { return live; }
 
 AllocationsLeft::AllocationsLeft(int count) { left = count; }
 AllocationsLeft::~AllocationsLeft() { left = kUnlimited; }
 
 void* operator new(size_t size) { return Allocate(size); }
-void* operator new[](size_t size, const std::nothrow_t&) noexcept {
-  return left == 0 ? nullptr : std::malloc(size);
-}
 void* operator new[](size_t size) { return Allocate(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, size_t) noexcept { std::free(memory); }
+void* operator new(size_t size, const std::nothrow_t&) noexcept { return TryAllocate(size); }
+void* operator new[](size_t size, const std::nothrow_t&) noexcept { return TryAllocate(size); }
+void operator delete(void* memory) noexcept { Release(memory); }
+void operator delete[](void* memory) noexcept { Release(memory); }
+void operator delete(void* memory, size_t) noexcept { Release(memory); }
+void operator delete[](void* memory, size_t) noexcept { Release(memory); }

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <cstddef>
+
+// How many allocations of the C++ heap have not been given back.
+size_t LiveAllocations();
+
 // Lets so many allocations of the C++ heap succeed while it lives; all others throw std::bad_alloc.
 class AllocationsLeft {
  public:
