@@ -2,14 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "support/editor_fixture.h"
 
 namespace {
 
 constexpr char kCaption[] = "Load screen settings";
-using Lines = std::vector<std::string>;
 
 class LoadScreenSettingsTest : public EditorFixture {
  protected:
@@ -25,31 +22,8 @@ class LoadScreenSettingsTest : public EditorFixture {
   }
 
   // Positions in the sorted lists.
-  enum { kApple, kHigh, kLost, kWide, kZebra, kPastTheEnd };
+  enum { kApple, kHigh, kLost, kWide, kZebra };
 };
-
-TEST_F(LoadScreenSettingsTest, OpensWithTheDocumentsChoices) {
-  SetSide(Yuri);
-  SetIconCount(3);
-  doc.iconChoice[0] = kPastTheEnd;
-  doc.iconChoice[1] = kZebra;
-  std::strcpy(doc.screenshotPath, "C:\\pics\\shot.png");
-  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [](HWND dialog) {
-    for (const int list : {IDC_SETTINGS_ICON1, IDC_SETTINGS_ICON2, IDC_SETTINGS_ICON3}) {
-      EXPECT_EQ(Lines({"Apple", "High", "Lost", "Wide", "Zebra"}), Items(dialog, list));
-      EXPECT_EQ(list == IDC_SETTINGS_ICON2 ? kZebra : -1, Selected(dialog, list));
-      EXPECT_TRUE(IsEnabled(dialog, list));
-    }
-    for (int id = IDC_SETTINGS_TWO; id <= IDC_SETTINGS_YURI; ++id) {
-      EXPECT_EQ(id == IDC_SETTINGS_THREE || id == IDC_SETTINGS_YURI, IsChecked(dialog, id)) << id;
-    }
-    EXPECT_EQ(GetDlgItem(dialog, IDC_SETTINGS_THREE), GetFocus());
-    EXPECT_EQ("C:\\pics\\shot.png", Text(dialog, IDC_SETTINGS_PATH));
-    PressKey(GetFocus(), VK_RETURN);
-    EXPECT_TRUE(IsWindowVisible(dialog)) << "Enter does nothing";
-  });
-  EXPECT_EQ("Yuri - 3", StatusText(0)) << "opening and closing changes nothing";
-}
 
 TEST_F(LoadScreenSettingsTest, ChosenIconsAreShownAndRemembered) {
   WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {

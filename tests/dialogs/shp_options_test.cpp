@@ -26,25 +26,6 @@ class ShpOptionsTest : public EditorFixture {
   }
 };
 
-TEST_F(ShpOptionsTest, ExportsWithTheNameFromTheField) {
-  SaveAsShp([this](HWND dialog) {
-    EXPECT_TRUE(IsChecked(dialog, IDC_SHP_GENERATE));
-    EXPECT_EQ("256", Text(dialog, IDC_SHP_COLOURS));
-    EXPECT_EQ(GetDlgItem(dialog, IDC_SHP_NAME), GetFocus());
-    EXPECT_FALSE(IsEnabled(dialog, IDOK));
-    EXPECT_FALSE(IsVisible(dialog, IDC_SHP_PROGRESS));
-    EXPECT_FALSE(IsVisible(dialog, IDC_SHP_SHP16));
-    Type(dialog, IDC_SHP_NAME, AppPath("typed.pal"));
-    Type(dialog, IDC_SHP_COLOURS, "20");
-    Press(dialog, IDOK);
-    EXPECT_EQ(1, SendDlgItemMessageA(dialog, IDC_SHP_PROGRESS, PBM_GETPOS, 0, 0))
-        << "14 steps on a bar of 13: the last one starts over";
-  });
-  ExpectSprite(20);
-  EXPECT_EQ(768U, ReadContent(File("typed.pal")).size());
-  EXPECT_EQ(AppPath("typed.pal"), palettePath);
-}
-
 TEST_F(ShpOptionsTest, BrowsedNameIsProposedAgainButNotShown) {
   SaveAsShp([this](HWND dialog) {
     user.When("Save As", [](HWND file) { Press(file, IDCANCEL); });
