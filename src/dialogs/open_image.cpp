@@ -1,6 +1,7 @@
 #include "dialogs/open_image.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include "controls/image_preview.h"
@@ -50,12 +51,37 @@ void OnSize(HWND pane, int height) {
   Resize(pane, IDC_OPEN_PREVIEW, kPreviewWidth, height - kBelowPreview);
 }
 
+BOOL CALLBACK FindList(HWND window, LPARAM found) {
+  char name[32] = "";
+  GetClassNameA(window, name, sizeof name);
+  if (std::strcmp(name, "SysListView32") != 0) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+// Whether the list's selected line is a folder. Wine goes on telling the file chosen before.
+bool IsFolderSelected(HWND dialog) {
+  HWND list = nullptr;
+  EnumChildWindows(dialog, FindList, reinterpret_cast<LPARAM>(&list));
+  const LRESULT line =
+      list ? SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) : -1;
+  if (line < 0) return false;
+  char folder[MAX_PATH] = "", name[MAX_PATH] = "";
+  LVITEMA item{};
+  item.pszText = name;
+  item.cchTextMax = MAX_PATH;
+  SendMessageA(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&item));
+  SendMessageA(dialog, CDM_GETFOLDERPATH, MAX_PATH, reinterpret_cast<LPARAM>(folder));
+  const DWORD kind = GetFileAttributesA((std::string(folder) + "\\" + name).c_str());
+  return kind != INVALID_FILE_ATTRIBUTES && (kind & FILE_ATTRIBUTE_DIRECTORY);
+}
+
 void OnSelectionChanged(HWND pane) {
   char path[MAX_PATH] = "";
   const LRESULT needed =
       SendMessageA(GetParent(pane), CDM_GETFILEPATH, MAX_PATH - 1, reinterpret_cast<LPARAM>(path));
   // A path that is cut short would be another file's.
-  if (needed > MAX_PATH - 1) path[0] = '\0';
+  if (needed > MAX_PATH - 1 || IsFolderSelected(GetParent(pane))) path[0] = '\0';
   DIBClass& preview = PreviewOf(pane);
   preview.Free();
   const bool loaded = TryLoadImageFile(path, preview) != 0;

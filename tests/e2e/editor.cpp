@@ -184,18 +184,22 @@ void Editor::OpenPicture(const std::string& path) const {
   EnterName(dialog, path.substr(0, path.rfind('\\')));
   Click(dialog, IDOK);
   HWND list = nullptr;
-  WaitUntil("the folder's only file in the list", [&] {
+  WaitUntil("the folder's two lines in the list", [&] {
     list = FindChild(dialog, "SysListView32");
-    return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 1;
+    return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 2;
   });
-  // A click beside the only entry gives the list the keyboard.
+  // A click beside the entries gives the list the keyboard.
   PostClick(list, [](RECT area) { return POINT{area.right - 20, area.bottom - 20}; });
   WaitUntil("the list to have the keyboard", [&] { return State().hwndFocus == list; });
-  TapKey(VK_HOME);
-  TapKey(VK_SPACE);
   const HWND preview = GetDlgItem(FindChild(dialog, "#32770"), IDC_OPEN_PREVIEW);
-  WaitUntil("the preview of " + path,
-            [&] { return CountColours(CaptureScreen(ClientArea(preview))) > 100; });
+  // The folder is the first line, the picture the last.
+  for (const WORD key : {WORD{VK_END}, WORD{VK_HOME}, WORD{VK_END}}) {
+    TapKey(key);
+    TapKey(VK_SPACE);
+    WaitUntil("the preview of " + path + " or none", [&] {
+      return (CountColours(CaptureScreen(ClientArea(preview))) > 100) == (key == VK_END);
+    });
+  }
   Screenshot(dialog, "open-preview");
   Close(dialog, IDOK);
 }

@@ -40,7 +40,7 @@ class Editor {
   void Answer(const std::string& caption, const std::string& text, int button) const;
   // Saves under the path in the system's dialog.
   void SaveAs(const std::string& path) const;
-  // Picks the picture, which is alone in its folder, in the list of the Open dialog.
+  // Picks the picture, which is alone beside a folder, in the list of the Open dialog.
   void OpenPicture(const std::string& path) const;
 
   bool IsRunning() const;

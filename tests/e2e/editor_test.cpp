@@ -265,12 +265,12 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
     editor.Close(dialog, IDOK);
   }
 
-  // A copy of the sample alone in a folder, so that it is the one entry of the Open dialog's list.
-  // The manual shows this path.
+  // A copy of the sample alone beside a folder, so that it is the last line of the Open dialog's
+  // list. The manual shows this path.
   std::string LentSample() {
     const fs::path folder = fs::u8path(std::getenv("PUBLIC")) / "Pictures" / "Corvanta";
     fs::remove_all(folder);
-    fs::create_directories(folder);
+    fs::create_directories(folder / "Maps");
     fs::copy(fs::u8path(CORVANTA_SOURCE "/templates/samples") / plan.screenshot.sample,
              folder / plan.screenshot.sample);
     return (folder / plan.screenshot.sample).string();

@@ -231,3 +231,11 @@ typedef struct _OFNOTIFYA {
   LPOPENFILENAMEA lpOFN;
   LPSTR pszFile;
 } OFNOTIFYA;
+
+typedef struct tagLVITEMA {
+  UINT mask;
+  int iItem, iSubItem;
+  UINT state, stateMask;
+  LPSTR pszText;
+  int cchTextMax;
+} LVITEMA;
