@@ -34,7 +34,7 @@ bool IsFolder(const std::string& path) {
 
 // Where the dialog opens: the proposed file's folder, else the one asked for, else the current one.
 std::string FirstFolder(const OPENFILENAMEA& request) {
-  const std::string proposed = FolderPart(request.lpstrFile);
+  std::string proposed = FolderPart(request.lpstrFile);
   if (IsFolder(proposed)) return proposed;
   char folder[MAX_PATH];
   GetCurrentDirectoryA(MAX_PATH, folder);
