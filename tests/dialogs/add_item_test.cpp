@@ -25,11 +25,7 @@ class AddItemTest : public EditorFixture {
     ImageClass picture;
     Draw(picture, "KYn|gYK|KKK|KKK|KKK", ItemLegend());
     WritePng("Templates\\mark.png", picture);
-    WriteSettings("[SymbolsList]\n1=Mark,mark.png\n2=Lost,lost.png\n");
   }
-
-  // The positions of the list, which shows the last entry first.
-  enum { kLost, kMark };
 
   // The preview around the upper rows of mark.png in its middle.
   static std::string Preview(HWND dialog) {
@@ -49,13 +45,11 @@ TEST_F(AddItemTest, ListsTheEntriesInReverse) {
     return letter + ("=" + std::string(length - 9, letter)) + ",mark.png\n";
   };
   WriteSettings("[SymbolsList]\n1=B,x\n2=Mark, mark.png\n3=bad\n4=A,z\n4=A,z\n" + entry('c', 255) +
-                entry('d', 256) + entry('e', 400));
+                entry('d', 256));
   WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) {
     EXPECT_EQ(Lines({std::string(247, 'd'), std::string(246, 'c'), "A", "A", "Mark", "B"}),
               Items(dialog, IDC_ADD_LIST));
-    EXPECT_EQ(-1, Selected(dialog, IDC_ADD_LIST));
     EXPECT_EQ(GetDlgItem(dialog, IDC_ADD_LIST), GetFocus());
-    EXPECT_TRUE(IsChecked(dialog, IDC_ADD_ALLIED));
     for (const auto& [line, found] : {std::pair(1, 1), std::pair(0, 0), std::pair(4, 0)}) {
       Choose(dialog, IDC_ADD_LIST, line);
       EXPECT_EQ(found, doc.itemPreview.valid) << line << ": spaces belong to a file's name";
@@ -63,38 +57,32 @@ TEST_F(AddItemTest, ListsTheEntriesInReverse) {
   });
 }
 
-TEST_F(AddItemTest, PreviewFollowsListAndColour) {
+TEST_F(AddItemTest, PreviewFollowsListAndColourAndOkAddsWhatItShows) {
+  enum { kLost, kMark };  // the list shows the last entry first
+  WriteSettings("[SymbolsList]\n1=Mark,mark.png\n2=Lost,lost.png\n");
   WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) {
-    Press(dialog, IDC_ADD_SOVIET);
-    EXPECT_EQ(0, doc.itemPreview.valid) << "nothing is selected, nothing is shown";
-    Press(dialog, IDOK);
-  });
-  WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) {
-    EXPECT_TRUE(IsChecked(dialog, IDC_ADD_SOVIET)) << "the colour survives, the selection not";
-    EXPECT_FALSE(IsChecked(dialog, IDC_ADD_ALLIED));
-    EXPECT_EQ(-1, Selected(dialog, IDC_ADD_LIST));
-    Choose(dialog, IDC_ADD_LIST, kMark);
-    EXPECT_EQ(Rows(".....|..Sn.|.gS..|....."), Preview(dialog));
+    EXPECT_TRUE(IsChecked(dialog, IDC_ADD_ALLIED));
     Press(dialog, IDC_ADD_ALLIED);
+    EXPECT_EQ(0, doc.itemPreview.valid) << "nothing is selected, nothing is shown";
+    Choose(dialog, IDC_ADD_LIST, kMark);
     EXPECT_EQ(Rows(".....|..An.|.gA..|....."), Preview(dialog));
     Press(dialog, IDC_ADD_YURI);
     EXPECT_EQ(Rows(".....|..Un.|.gU..|....."), Preview(dialog));
     Choose(dialog, IDC_ADD_LIST, kLost);
     EXPECT_EQ(Rows(".....|.....|.....|....."), Preview(dialog));
+    Press(dialog, IDC_ADD_SOVIET);
     Press(dialog, IDOK);
   });
+  WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) { Press(dialog, IDOK); });
   EXPECT_EQ(0, doc.items.Count()) << "OK adds nothing that can't be read or is not selected";
-  WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) { Choose(dialog, IDC_ADD_LIST, kMark); });
-  EXPECT_EQ(0, doc.itemPreview.valid) << "released between openings";
-}
-
-TEST_F(AddItemTest, OkAddsTheTintedPicture) {
   EnableMenuItem(GetMenu(doc.mainWindow), IDM_DELETE_ITEM, MF_BYCOMMAND | MF_GRAYED);
   WithDialog(kCaption, IDM_ADD_ITEM, [](HWND dialog) {
+    EXPECT_TRUE(IsChecked(dialog, IDC_ADD_SOVIET)) << "the colour survives, the selection not";
+    EXPECT_EQ(-1, Selected(dialog, IDC_ADD_LIST));
     Choose(dialog, IDC_ADD_LIST, kMark);
-    Press(dialog, IDC_ADD_SOVIET);
     PressKey(GetFocus(), VK_RETURN);
   });
+  EXPECT_EQ(0, doc.itemPreview.valid) << "released between openings";
   ASSERT_EQ(1, doc.items.Count());
   const ItemClass& item = doc.items.At(0);
   EXPECT_EQ(Rows("KSn|gSK|KKK|KKK|KKK"), Drawn(item.image, ItemLegend()));
