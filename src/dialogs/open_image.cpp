@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <string_view>
 
 #include "controls/image_preview.h"
 #include "dialogs/file_dialogs.h"
@@ -59,8 +60,9 @@ BOOL CALLBACK FindList(HWND window, LPARAM found) {
   return FALSE;
 }
 
-// Whether the list's selected line is a folder. Wine goes on telling the file chosen before.
-bool IsFolderSelected(HWND dialog) {
+// Whether the list's selected line is a folder, for which Wine goes on telling the path of the file
+// chosen before. A file's line may lack the ending of its name, which a folder may have as well.
+bool IsFolderSelected(HWND dialog, std::string_view path) {
   HWND list = nullptr;
   EnumChildWindows(dialog, FindList, reinterpret_cast<LPARAM>(&list));
   const LRESULT line =
@@ -72,8 +74,10 @@ bool IsFolderSelected(HWND dialog) {
   item.cchTextMax = MAX_PATH;
   SendMessageA(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&item));
   SendMessageA(dialog, CDM_GETFOLDERPATH, MAX_PATH, reinterpret_cast<LPARAM>(folder));
-  const DWORD kind = GetFileAttributesA((std::string(folder) + "\\" + name).c_str());
-  return kind != INVALID_FILE_ATTRIBUTES && (kind & FILE_ATTRIBUTE_DIRECTORY);
+  const std::string selected = std::string(folder) + "\\" + name;
+  const DWORD kind = GetFileAttributesA(selected.c_str());
+  return !path.starts_with(selected) && kind != INVALID_FILE_ATTRIBUTES &&
+         (kind & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 void OnSelectionChanged(HWND pane) {
@@ -81,7 +85,7 @@ void OnSelectionChanged(HWND pane) {
   const LRESULT needed =
       SendMessageA(GetParent(pane), CDM_GETFILEPATH, MAX_PATH - 1, reinterpret_cast<LPARAM>(path));
   // A path that is cut short would be another file's.
-  if (needed > MAX_PATH - 1 || IsFolderSelected(GetParent(pane))) path[0] = '\0';
+  if (needed > MAX_PATH - 1 || IsFolderSelected(GetParent(pane), path)) path[0] = '\0';
   DIBClass& preview = PreviewOf(pane);
   preview.Free();
   const bool loaded = TryLoadImageFile(path, preview) != 0;

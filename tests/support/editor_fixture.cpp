@@ -133,11 +133,6 @@ void EditorFixture::ReleaseCanvas(int32_t x, int32_t y) {
   SendMessageA(doc.viewWindow, WM_LBUTTONUP, 0, ClientPoint(x, y));
 }
 
-void EditorFixture::ClickCanvas(int32_t x, int32_t y) {
-  PressCanvas(x, y);
-  ReleaseCanvas(x, y);
-}
-
 void EditorFixture::Drag(int32_t fromX, int32_t fromY, int32_t toX, int32_t toY) {
   PressCanvas(fromX, fromY);
   MoveCanvas(toX, toY);

@@ -53,7 +53,6 @@ class EditorFixture : public testing::Test {
   void PressCanvas(int32_t x, int32_t y);
   void MoveCanvas(int32_t x, int32_t y);
   void ReleaseCanvas(int32_t x, int32_t y);
-  void ClickCanvas(int32_t x, int32_t y);
   void Drag(int32_t fromX, int32_t fromY, int32_t toX, int32_t toY);
 
   std::string StatusText(int part) const;
