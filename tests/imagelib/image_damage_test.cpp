@@ -6,12 +6,13 @@ namespace {
 
 class ImageLibDamage : public ImageLibTest {
  protected:
-  // Calls check(type, bytes of a whole file) for each type that the library writes.
+  // Calls check(type, bytes of a whole file) for each type that the library reads.
   template <class Check>
-  void ForWrittenTypes(Check check) {
+  void ForEachType(Check check) {
     for (const std::string type : {"png", "bmp", "jpg", "tif"}) {
       if (Readable(type)) check(type, SavedFile(type));
     }
+    if (Readable("gif")) check("gif", ReadContent(kPictures + std::string("tiny.gif")));
   }
   std::string SavedFile(const std::string& type) const {
     const std::string path = folder_.Path("whole." + type);
@@ -26,20 +27,21 @@ class ImageLibDamage : public ImageLibTest {
 
 // By its size already: decoders differ in what they let pass, the walk through the file does not.
 TEST_F(ImageLibDamage, EveryTruncationIsRefusedButMoreBytesDoNoHarm) {
-  ForWrittenTypes([this](const std::string& type, const std::string& whole) {
-    for (std::size_t length = 0; length < whole.size(); ++length) {
+  ForEachType([this](const std::string& type, const std::string& whole) {
+    // A GIF file's last byte only says that nothing follows.
+    for (std::size_t length = 0; length + (type == "gif") < whole.size(); ++length) {
       EXPECT_EQ(0, SizeOf(whole.substr(0, length))) << type << " of " << length << " bytes";
     }
     WriteContent(path_, whole);
     const Picture picture = LoadPicture(path_);
-    EXPECT_EQ(3U, picture.size()) << type;
+    EXPECT_FALSE(picture.empty()) << type;
     WriteContent(path_, whole + std::string(100, '\xEE'));
     EXPECT_EQ(picture, LoadPicture(path_)) << type;
   });
 }
 
 TEST_F(ImageLibDamage, FlippedBytesNeverCrashNorFillTheTopByte) {
-  ForWrittenTypes([this](const std::string& type, const std::string& whole) {
+  ForEachType([this](const std::string& type, const std::string& whole) {
     for (std::size_t at = 0; at < whole.size(); ++at) {
       for (const int mask : {0x01, 0x80, 0xFF}) {
         std::string damaged = whole;

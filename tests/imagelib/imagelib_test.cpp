@@ -1,7 +1,5 @@
 #include "imagelib/imagelib.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 #include "imagelib/picture_files.h"
@@ -13,20 +11,6 @@ namespace fs = std::filesystem;
 struct Size {
   int width, height;
 };
-
-// Largest difference of any channel of any pixel of two pictures of one size.
-int Distance(const Picture& a, const Picture& b) {
-  int worst = 0;
-  for (std::size_t y = 0; y < a.size(); ++y) {
-    for (std::size_t i = 0; i < 4 * a[y].size(); ++i) {
-      const auto channel = [&](const Picture& of) {
-        return of.at(y).at(i / 4) >> i % 4 * 8 & 0xFF;
-      };
-      worst = std::max(worst, std::abs(static_cast<int>(channel(a) - channel(b))));
-    }
-  }
-  return worst;
-}
 
 TEST_F(ImageLibTest, PicturesComeBackWithoutTopBytes) {
   const struct {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,9 @@
 #include "support/temp_folder.h"
 
 // Pictures and their files, as the tests of the image library use them.
+
+// Files that make_pictures.py has made.
+constexpr char kPictures[] = CORVANTA_SOURCE "/tests/imagelib/pictures/";
 
 // Rows of pixels; none for no picture.
 using Picture = std::vector<std::vector<std::uint32_t>>;
@@ -25,6 +30,20 @@ inline Picture Gradient(int width, int height) {
     }
   }
   return picture;
+}
+
+// Largest difference of any channel of any pixel of two pictures of one size.
+inline int Distance(const Picture& a, const Picture& b) {
+  int worst = 0;
+  for (std::size_t y = 0; y < a.size(); ++y) {
+    for (std::size_t i = 0; i < 4 * a[y].size(); ++i) {
+      const auto channel = [&](const Picture& of) {
+        return of.at(y).at(i / 4) >> i % 4 * 8 & 0xFF;
+      };
+      worst = std::max(worst, std::abs(static_cast<int>(channel(a) - channel(b))));
+    }
+  }
+  return worst;
 }
 
 inline int SavePicture(const std::string& path, const Picture& picture) {
