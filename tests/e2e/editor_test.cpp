@@ -45,11 +45,8 @@ void SavePicture(const Editor& editor, const std::string& name) {
   EXPECT_LT(different, 2000) << path;
 }
 
-// Exports <name>.shp and <name>.pal with a generated palette of so many colours. They are turned
-// back into a picture, which is saved as <name>.shp.png and returned: the screen as the game shows
-// it.
-ImageClass ExportSprite(const Editor& editor, const std::string& name, int colours) {
-  const std::string shp = NewResultPath(name + ".shp"), pal = NewResultPath(name + ".pal");
+// Goes through the export's dialogs up to its OK button.
+HWND BeginExport(const Editor& editor, const std::string& shp, const std::string& pal) {
   editor.Command(IDM_SAVE_AS_SHP);
   editor.SaveAs(shp);
   const HWND options = editor.Dialog("SHP save options");
@@ -58,6 +55,15 @@ ImageClass ExportSprite(const Editor& editor, const std::string& name, int colou
   WaitUntil("the palette's Save dialog", [&] { return !IsWindowEnabled(options); });
   editor.SaveAs(pal);
   WaitUntil("the chosen name", [&] { return Text(options, IDC_SHP_NAME) == pal; });
+  return options;
+}
+
+// Exports <name>.shp and <name>.pal with a generated palette of so many colours. They are turned
+// back into a picture, which is saved as <name>.shp.png and returned: the screen as the game shows
+// it.
+ImageClass ExportSprite(const Editor& editor, const std::string& name, int colours) {
+  const std::string shp = NewResultPath(name + ".shp"), pal = NewResultPath(name + ".pal");
+  const HWND options = BeginExport(editor, shp, pal);
   if (colours != 256) Type(options, IDC_SHP_COLOURS, std::to_string(colours));
   Screenshot(options, "shp-options-" + name);
   editor.Close(options, IDOK);
@@ -78,22 +84,77 @@ TEST(CoreTest, SavesTheSamePictureInEveryFormatAfterStartUp) {
   ExportSprite(editor, "start", 256);
 }
 
-TEST(MissingTemplateTest, IsToldAndEndsTheEditor) {
+// The editor in an application folder that the test may spoil.
+class FailingSystemTest : public testing::Test {
+ protected:
+  FailingSystemTest() {
+    const fs::path from = fs::u8path(EditorPath()).parent_path(), to = fs::u8path(folder.Path());
+    for (const char* file : {"Corvanta.exe", "ImageLib.dll", "Settings.ini", "Templates"}) {
+      fs::copy(from / file, to / file, fs::copy_options::recursive);
+    }
+  }
+  void Lose(const std::string& file) { fs::remove(fs::u8path(folder.Path(file))); }
+
+  const TempFolder folder;
+  const std::string executable = folder.Path("Corvanta.exe");
+};
+
+TEST_F(FailingSystemTest, FilesThatCannotBeWrittenAreTold) {
+  Editor editor(executable);
+  editor.WaitForPicture();
+  const std::string good = folder.Path("good.shp"), lent = folder.Path("lent.shp");
+  WriteContent(lent, "another program has it");
+  const HANDLE held =
+      CreateFileA(lent.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  for (const std::string& bad : {lent, folder.Path("con")}) {
+    for (const bool isSprite : {true, false}) {
+      const HWND options = BeginExport(editor, isSprite ? bad : good, folder.Path("good.pal"));
+      if (!isSprite) Paste(GetDlgItem(options, IDC_SHP_NAME), bad);
+      editor.Click(options, IDOK);
+      editor.Answer("Error", isSprite ? "SHP file open error!" : "Palette file create error!",
+                    IDOK);
+      EXPECT_EQ(ReadContent(good).size(), isSprite ? 0 : 416032);
+      Lose("good.shp");
+    }
+  }
+  CloseHandle(held);
+  EXPECT_EQ(ReadContent(lent), "another program has it");
+  EXPECT_FALSE(fs::exists(fs::u8path(folder.Path("good.pal"))));
+}
+
+TEST_F(FailingSystemTest, WhatHasGoneSinceTheStartIsTold) {
+  Editor editor(executable);
+  editor.WaitForPicture();
+  ASSERT_TRUE(OpenClipboard(nullptr));
+  const HWND owner = GetClipboardOwner();
+  editor.Command(IDM_COPY);
+  editor.Command(IDM_ADD_ITEM);
+  editor.Close(editor.Dialog("Add new item"), IDCANCEL);
+  EXPECT_EQ(owner, GetClipboardOwner()) << "what this program has open is not the editor's";
+  CloseClipboard();
+  Lose("Settings.ini");
+  editor.Command(IDM_ADD_ITEM);
+  editor.Answer("Error", "Error: Can't find Settings.ini file in application directory!", IDOK);
+  editor.Close(editor.Dialog("Add new item"), IDCANCEL);
+  Lose("Templates/sov_worldmap.png");
+  fs::copy(fs::u8path(EditorPath()).parent_path() / "Settings.ini", fs::u8path(folder.Path()));
+  editor.Command(IDM_LOAD_SCREEN_SETTINGS);
+  editor.Click(editor.Dialog("Load screen settings"), IDC_SETTINGS_SOVIET);
+  editor.Answer("Error", "Can't find file!", IDOK);
+  EXPECT_EQ(editor.WaitForExit(), 0u);
+}
+
+TEST_F(FailingSystemTest, MissingTemplateIsToldAndEndsTheEditor) {
   const struct {
     const char *file, *caption, *text;
   } cases[] = {
-      {"com_worldmap2x.png", "Corvanta", "Error: Can't find com_worldmap2x.PNG file."},
-      {"all_worldmap.png", "Error", "Can't find file!"},
       {"all_2icomain.png", "Error", "Can't find file!"},
+      {"all_worldmap.png", "Error", "Can't find file!"},
+      {"com_worldmap2x.png", "Corvanta", "Error: Can't find com_worldmap2x.PNG file."},
   };
   for (const auto& missing : cases) {
-    const TempFolder folder;
-    const fs::path from = fs::u8path(EditorPath()).parent_path(), to = fs::u8path(folder.Path());
-    for (const char* file : {"Corvanta.exe", "ImageLib.dll", "Settings.ini", "Templates"}) {
-      fs::copy(from / file, to / file);
-    }
-    fs::remove(to / "Templates" / missing.file);
-    const Editor editor(folder.Path("Corvanta.exe"));
+    Lose(std::string("Templates/") + missing.file);
+    const Editor editor(executable);
     editor.Answer(missing.caption, missing.text, IDOK);
     EXPECT_EQ(editor.WaitForExit(), 0u);
   }

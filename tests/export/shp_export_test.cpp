@@ -100,6 +100,13 @@ struct Failure {
   size_t shpSize;  // what is left of the sprite file
 };
 
+// A file to which nothing can be written, on Linux and so under Wine.
+#ifdef _WIN32
+constexpr char kFullDisk[] = "Z:\\dev\\full";
+#else
+constexpr char kFullDisk[] = "/dev/full";
+#endif
+
 const Failure kFailures[] = {
     {"PaletteMissing", kExistingPalette, "b.shp", "none.pal", "PAL file open error!", 0},
     {"PaletteShort", kExistingPalette, "b.shp", "short.pal", "PAL file read error!", 0},
@@ -108,6 +115,9 @@ const Failure kFailures[] = {
     {"SpriteIsAFolder", kGeneratePalette, "folder", "b.pal", "SHP file open error!", 0},
     {"PaletteFolderMissing", kGeneratePalette, "b.shp", "none\\b.pal", "Palette file create error!",
      34},
+    {"SpriteOnAFullDisk", kGeneratePalette, kFullDisk, "b.pal",
+     "SHP file write error (SHP2FILEHEADER)!", 0},
+    {"PaletteOnAFullDisk", kGeneratePalette, "b.shp", kFullDisk, "Palette file write error!", 34},
     {"PaletteFileIsAFolder", kGeneratePalette, "b.shp", "folder", "Palette file create error!", 34},
 };
 
@@ -116,8 +126,10 @@ TEST_F(ShpExportTest, EachFailureLeavesWhatWasWritten) {
   std::filesystem::create_directory(folder_.Path("folder"));
   for (const Failure& failure : kFailures) {
     std::filesystem::remove(folder_.Path("b.shp"));
-    shp_ = folder_.Path(failure.shp);
-    pal_ = folder_.Path(failure.pal);
+    shp_ = failure.shp == kFullDisk ? kFullDisk : folder_.Path(failure.shp);
+    pal_ = failure.pal == kFullDisk ? kFullDisk : folder_.Path(failure.pal);
+    const bool full = shp_ == kFullDisk || pal_ == kFullDisk;
+    if (full && !std::filesystem::exists(kFullDisk)) continue;
     EXPECT_STREQ(failure.message, Export(PlainPicture(2, 1, 1), failure.mode, 256)) << failure.name;
     EXPECT_EQ(failure.shpSize, ReadContent(folder_.Path("b.shp")).size()) << failure.name;
     EXPECT_FALSE(std::filesystem::exists(folder_.Path("b.pal"))) << failure.name;
