@@ -26,9 +26,11 @@ INT_PTR CALLBACK Dialog::Proc(HWND window, UINT message, WPARAM wParam, LPARAM l
       dialog->window_ = window;
       return dialog->OnInit();
     case WM_COMMAND:
-      return dialog->OnCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_CLOSE:
-      return dialog->OnClose();
+      // Another program's message must not end the dialog below the one that it has opened.
+      if (!IsWindowEnabled(window)) return TRUE;
+      return message == WM_CLOSE ? dialog->OnClose()
+                                 : dialog->OnCommand(LOWORD(wParam), HIWORD(wParam));
   }
   return dialog->OnMessage(message, wParam, lParam);
 }

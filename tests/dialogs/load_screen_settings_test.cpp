@@ -50,6 +50,18 @@ TEST_F(LoadScreenSettingsTest, ChosenIconsAreShownAndRemembered) {
   });
 }
 
+TEST_F(LoadScreenSettingsTest, StaysOpenBelowTheDialogThatItOpens) {
+  WithDialog(kCaption, IDM_LOAD_SCREEN_SETTINGS, [this](HWND dialog) {
+    user.When("Choose file to open", [dialog](HWND open) {
+      SendMessageA(dialog, WM_CLOSE, 0, 0);
+      SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+      Press(open, IDCANCEL);
+    });
+    Press(dialog, IDC_SETTINGS_BROWSE);
+    EXPECT_TRUE(IsWindowVisible(dialog));
+  });
+}
+
 TEST_F(LoadScreenSettingsTest, RefusedIconEmptiesItsSlot) {
   constexpr char kWrongSize[] = "Error: This file isn't valid icon file\nImage size must be 76x60";
   const struct {

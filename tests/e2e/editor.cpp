@@ -5,7 +5,6 @@
 #include "document/load_screen_doc.h"
 #include "imaging/memory_dc.h"
 #include "resources/resource.h"
-#include "support/find_window.h"
 #include "support/picture_difference.h"
 #include "support/user.h"
 
@@ -72,7 +71,7 @@ Editor::~Editor() {
 }
 
 HWND Editor::Standing(const std::string& className, const std::string& caption) const {
-  for (const HWND window : StandingWindows(process_.dwThreadId)) {
+  for (const HWND window : Windows()) {
     if (ClassOf(window) == className && (caption.empty() || Text(window) == caption)) return window;
   }
   if (!IsRunning()) GiveUp("The editor ended before \"" + caption + "\" came.");

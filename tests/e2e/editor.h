@@ -2,8 +2,10 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "e2e/results.h"
+#include "support/find_window.h"
 
 // The editor as a process of its own, worked with the real keyboard and its messages. What waits in
 // vain fails the test. The process is ended at the latest with this object. Controls that open and
@@ -18,6 +20,8 @@ class Editor {
   // Waits for the main window to show the picture; comes before all that works that window.
   void WaitForPicture();
   HWND Main() const { return main_; }
+  // The windows that take input: one at most, and none while it changes.
+  std::vector<HWND> Windows() const { return StandingWindows(process_.dwThreadId); }
   // The first part of the status bar.
   std::string Status() const;
   // The picture as it stands on the screen.

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <vector>
 
 #include "e2e/editor.h"
@@ -158,6 +159,87 @@ TEST_F(FailingSystemTest, MissingTemplateIsToldAndEndsTheEditor) {
     editor.Answer(missing.caption, missing.text, IDOK);
     EXPECT_EQ(editor.WaitForExit(), 0u);
   }
+}
+
+// Anything a user can do, in whatever window stands. The script so far is told with a failure.
+class RandomUse {
+ public:
+  RandomUse(const Editor& editor, unsigned seed) : editor_(editor), random_(seed) {}
+
+  void Act() {
+    std::vector<HWND> windows;
+    WaitUntil("one window to take input. Script:\n" + script_, [&] {
+      if (!editor_.IsRunning()) GiveUp("The editor has ended. Script:\n" + script_);
+      windows = editor_.Windows();
+      std::erase_if(windows, [](HWND window) { return ClassOf(window) == "ComboLBox"; });
+      return windows.size() == 1;
+    });
+    windows[0] == editor_.Main() ? WorkMainWindow() : WorkDialog(windows[0]);
+  }
+
+ private:
+  int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
+  void Send(HWND window, UINT message, int wParam, int lParam) {
+    script_ += ClassOf(window) + " " + std::to_string(GetDlgCtrlID(window)) + ": " +
+               std::to_string(message) + " " + std::to_string(wParam) + " " +
+               std::to_string(lParam) + "\n";
+    // What opens a window does not return before that is closed.
+    SendMessageTimeoutA(window, message, static_cast<WPARAM>(wParam), lParam, SMTO_NORMAL, 100,
+                        nullptr);
+  }
+  void WorkMainWindow() {
+    constexpr UINT kCommands[] = {
+        IDM_ADD_ITEM,       IDM_LOAD_SCREEN_SETTINGS, IDM_SCREENSHOT_SETTINGS, IDM_SAVE_AS_IMAGE,
+        IDM_SAVE_AS_SHP,    IDM_SELECT_ITEM,          IDM_DELETE_ITEM,         IDM_UNSELECT_ITEM,
+        IDM_COPY,           IDM_VIEW_TOP_LAYER,       IDM_VIEW_BOTTOM_LAYER,   IDM_STATUS_BAR,
+        IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP,       IDM_MOVE_TARGET_BOX,     IDM_ABOUT};
+    const HWND view = FindChild(editor_.Main(), "ViewClass");
+    switch (Below(4)) {
+      case 0:
+        return Send(editor_.Main(), WM_COMMAND, kCommands[Below(std::size(kCommands))], 0);
+      case 1:
+        return Send(editor_.Main(), WM_KEYDOWN, VK_LEFT + Below(4), 0);
+      default:
+        return Send(view, WM_MOUSEMOVE + Below(3), MK_LBUTTON, MAKELPARAM(Below(900), Below(600)));
+    }
+  }
+  void WorkDialog(HWND dialog) {
+    const std::vector<HWND> controls = ChildWindows(dialog);
+    if (controls.empty()) return;  // it is closing
+    const HWND control = controls[static_cast<size_t>(Below(static_cast<int>(controls.size())))];
+    const std::string kind = ClassOf(control);
+    // The system's dialogs might write anywhere.
+    if (Below(8) == 0 || FindChild(dialog, "ToolbarWindow32")) {
+      Send(dialog, WM_CLOSE, 0, 0);
+    } else if (kind == "Button") {
+      Send(control, BM_CLICK, 0, 0);
+    } else if (kind == "Edit") {
+      Send(control, WM_CHAR, "0a.\\9"[Below(5)], 0);
+    } else if (kind != "Static") {
+      Send(control, WM_KEYDOWN, VK_PRIOR + Below(8), 0);
+    }
+  }
+
+  const Editor& editor_;
+  std::mt19937 random_;
+  std::string script_;
+};
+
+TEST_F(FailingSystemTest, RandomUseEndsOnlyOnYes) {
+  Editor editor(executable);
+  editor.WaitForPicture();
+  const char* const seed = std::getenv("CORVANTA_SEED");
+  RandomUse user(editor, seed ? static_cast<unsigned>(std::atoi(seed)) : 1);
+  for (int left = std::getenv("CORVANTA_LONG") ? 2000 : 100; left > 0; --left) user.Act();
+  WaitUntil("every dialog to close", [&] {
+    for (const HWND window : editor.Windows()) {
+      if (window != editor.Main()) PostMessageA(window, WM_CLOSE, 0, 0);
+    }
+    return IsWindowEnabled(editor.Main()) != 0;
+  });
+  editor.Command(IDM_EXIT);
+  editor.Answer("Corvanta", "Do you want to close Corvanta now?\nAll data won't be saved!", IDYES);
+  EXPECT_EQ(editor.WaitForExit(), 0u);
 }
 
 struct Symbol {

@@ -30,6 +30,7 @@ constexpr size_t kLongestRandom = 1200, kLongestPiece = 64, kMostChanges = 8;
 char runAgain[512];
 
 void OnFault(int signal) {
+  if (write(STDERR_FILENO, script.data(), script.size()) < 0) return;
   if (write(STDERR_FILENO, runAgain, std::strlen(runAgain)) < 0) return;
   std::signal(signal, SIG_DFL);
   std::raise(signal);
@@ -78,6 +79,7 @@ int main(int argc, char** argv) {
     const std::vector<uint8_t> input = MakeInput(seeds, number);
     LLVMFuzzerTestOneInput(input.data(), input.size());
   }
-  std::printf("%llu inputs run without a fault\n", static_cast<unsigned long long>(runs));
+  std::printf("%llu inputs run without a fault, %llu steps\n",
+              static_cast<unsigned long long>(runs), steps);
   return 0;
 }

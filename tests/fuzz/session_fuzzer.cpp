@@ -123,6 +123,7 @@ class Session : public EditorFixture {
     const std::vector<HWND> standing = StandingWindows(GetCurrentThreadId());
     Require(standing.size() <= 1, "one window at a time takes input");
     if (standing.empty()) return;
+    ++steps;
     if (++actions_ % kActionsPerPicture == 0) CheckComposition(standing[0] == doc.mainWindow);
     Require(standing[0] != doc.mainWindow || GetFocus() == doc.mainWindow, "the keys arrive");
     if (!choices_.Left() || actions_ > kMostActions) {
@@ -132,6 +133,13 @@ class Session : public EditorFixture {
     } else {
       WorkDialog(standing[0]);
     }
+  }
+
+  // Notes an action in the window that stands for the script.
+  static void Did(const std::string& action, int one, int other = 0) {
+    const std::vector<HWND> standing = StandingWindows(GetCurrentThreadId());
+    script += (standing.empty() ? "" : Text(standing[0])) + ": " + action + " " +
+              std::to_string(one) + " " + std::to_string(other) + "\n";
   }
 
   void Leave(HWND window) {
@@ -162,6 +170,7 @@ class Session : public EditorFixture {
     const UINT command = choices_.Chance(2) ? choices_.From(kDialogs) : choices_.From(kCommands);
     if (!IsCommandEnabled(command) || (command == IDM_EXIT && !choices_.Chance(8))) return;
     if (command == IDM_EXIT) mayEnd_ = true;
+    Did("command", static_cast<int>(command));
     Command(command);
   }
 
@@ -173,8 +182,10 @@ class Session : public EditorFixture {
       x = item.x + x % (item.image.width + 2) + doc.viewOffsetX - doc.viewScrollX;
       y = item.y + y % (item.image.height + 2) + doc.viewOffsetY - doc.viewScrollY;
     }
+    const UINT message = choices_.From(kMouseMessages);
+    Did(message == WM_MOUSEMOVE ? "move" : message == WM_LBUTTONUP ? "up" : "down", x, y);
     if (choices_.Chance(16)) ReleaseCapture();
-    SendMessageA(doc.viewWindow, choices_.From(kMouseMessages), MK_LBUTTON, MAKELPARAM(x, y));
+    SendMessageA(doc.viewWindow, message, MK_LBUTTON, MAKELPARAM(x, y));
   }
 
   void Scroll() {
@@ -185,12 +196,14 @@ class Session : public EditorFixture {
     GetScrollRange(doc.viewWindow, across ? SB_HORZ : SB_VERT, &first, &last);
     const int code = choices_.Below(SB_ENDSCROLL + 1),
               thumb = first + choices_.Below(last - first + 1);
+    Did(across ? "scroll across" : "scroll down", code, thumb);
     SendMessageA(doc.viewWindow, across ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(code, thumb), 0);
   }
 
   void Resize(HWND window) {
-    SetWindowPos(window, nullptr, 0, 0, choices_.Below(1300), choices_.Below(1050),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const int width = choices_.Below(1300), height = choices_.Below(1050);
+    Did("resize", width, height);
+    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
   void WorkDialog(HWND dialog) {
@@ -202,6 +215,7 @@ class Session : public EditorFixture {
     if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) {
       ChooseFile(dialog);
     } else if (action == 0) {
+      Did("close", 0);
       SendMessageA(dialog, WM_CLOSE, 0, 0);
     } else if (action == 1 && (GetWindowLongPtrA(dialog, GWL_STYLE) & WS_THICKFRAME)) {
       Resize(dialog);
@@ -209,6 +223,7 @@ class Session : public EditorFixture {
       const HWND focus = GetFocus();
       PressKey(IsWindow(focus) && focus != doc.mainWindow ? focus : dialog, SomeKey());
     } else if (action == 4 && GetDlgItem(dialog, IDOK) && IsEnabled(dialog, IDOK)) {
+      Did("press", IDOK);
       Press(dialog, IDOK);
     } else if (!controls.empty()) {
       WorkControl(choices_.From(controls));
@@ -226,6 +241,7 @@ class Session : public EditorFixture {
     const std::string kind = ClassOf(control);
     const HWND parent = GetParent(control);
     const int id = GetDlgCtrlID(control);
+    Did("work " + kind, id);
     if (kind == "Button") {
       if ((GetWindowLongPtrA(control, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) Press(parent, id);
     } else if (kind == "Edit") {
@@ -242,14 +258,17 @@ class Session : public EditorFixture {
 
   // Half of them arrows, and no letters.
   int SomeKey() {
-    return choices_.Chance(2) ? VK_LEFT + choices_.Below(4)
-                              : VK_BACK + choices_.Below(VK_DELETE + 1 - VK_BACK);
+    const int key = choices_.Chance(2) ? VK_LEFT + choices_.Below(4)
+                                       : VK_BACK + choices_.Below(VK_DELETE + 1 - VK_BACK);
+    Did("key", key);
+    return key;
   }
 
   std::string SomeText() {
     if (choices_.Chance(8)) return std::string(static_cast<size_t>(choices_.Below(320)), 'n');
     if (choices_.Chance(4)) return std::to_string(choices_.Below(400));
     const std::string name = choices_.From(kFileNames);
+    Did("name " + name, 0);
     return choices_.Chance(2) ? AppPath(name) : name;
   }
 
@@ -266,6 +285,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // A failed expectation of the test support ends the process here, where no test counts it.
   GTEST_FLAG_SET(throw_on_failure, true);
   const size_t before = standin::LiveGdiObjects();
+  script.clear();
   Session(Choices(data, size)).Run();
   Require(StandingWindows(GetCurrentThreadId()).empty(), "no window is left");
   Require(OpenClipboard(nullptr) && EmptyClipboard() && CloseClipboard(),
