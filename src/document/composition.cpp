@@ -24,15 +24,15 @@ constexpr int32_t kFanLines = 5;
 constexpr uint32_t kUpperFan[kFanLines] = {0xC0C0C0, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xC0C0C0};
 constexpr uint32_t kLowerFan[kFanLines] = {0x969696, 0xC8C8C8, 0xC8C8C8, 0xC8C8C8, 0x969696};
 
-// Shows a map in a window from its pixel (x, y) on, continued by its left columns and top rows;
-// nothing from a pixel beyond the map.
+// Shows a map in a window from its pixel (x, y) on, continued once by its left columns and top
+// rows; nothing from a pixel beyond the map.
 void Tile(BitmapClass& target, const BitmapClass& map, int32_t x, int32_t y,
           const Rectangle& window) {
   if (x > map.width || y > map.height) return;
   const int32_t w1 = std::min(map.width - x, window.width);
-  const int32_t w2 = std::max(x - map.width + window.width, 0);
+  const int32_t w2 = std::clamp(x - map.width + window.width, 0, map.width);
   const int32_t h1 = std::min(map.height - y, window.height);
-  const int32_t h2 = std::max(y - map.height + window.height, 0);
+  const int32_t h2 = std::clamp(y - map.height + window.height, 0, map.height);
   target.CopyRegion(map, window.x, window.y, x, y, w1, h1);
   target.CopyRegion(map, window.x + w1, window.y, 0, y, w2, h1);
   target.CopyRegion(map, window.x, window.y + h1, x, 0, w1, h2);

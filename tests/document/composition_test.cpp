@@ -12,6 +12,10 @@
 
 namespace {
 
+// Whether a map that begins at its column or row `first` reaches so many pixels on, going round
+// once.
+bool Reaches(int32_t first, int32_t pixel, int32_t size) { return first + pixel < 2 * size; }
+
 // The picture that the document stands for, pixel by pixel and told in positions instead of copies.
 // The fans and the items are not in it.
 uint32_t ExpectedBottom(int32_t x, int32_t y) {
@@ -25,20 +29,26 @@ uint32_t ExpectedBottom(int32_t x, int32_t y) {
       return doc.icons[i].ReadPixel(x - left, y - 380);
     }
   }
-  const uint32_t overlay = OverlayPixel(doc.side, doc.iconCount, x, y);
+  const uint32_t overlay =
+      doc.sideOverlay.width == 800 ? OverlayPixel(doc.side, doc.iconCount, x, y) : kKeyColour;
   if (overlay != kKeyColour) return overlay;
-  return WorldMapPixel(doc.side, (doc.worldMapX + x) % 900, (doc.worldMapY + y) % 600);
+  const int32_t width = doc.worldMap.width, height = doc.worldMap.height;
+  if (!Reaches(doc.worldMapX, x, width) || !Reaches(doc.worldMapY, y, height)) return 0;
+  return WorldMapPixel(doc.side, (doc.worldMapX + x) % width, (doc.worldMapY + y) % height);
 }
 
 uint32_t ExpectedPixel(int32_t x, int32_t y) {
   if (doc.showTopLayer) {
     const int32_t boxX = x - doc.targetBoxX, boxY = y - doc.targetBoxY;
-    if (boxX >= 0 && boxX < 60 && boxY >= 0 && boxY < 58 &&
+    if (boxX >= 0 && boxX < 60 && boxY >= 0 && boxY < doc.smallTargetBox.height &&
         TargetBoxPixel(boxX, boxY) != kKeyColour) {
       return TargetBoxPixel(boxX, boxY);
     }
-    if (x >= 353 && x < 634 && y >= 58 && y < 335) {
-      return ZoomedMapPixel((doc.worldMap2xX + x - 353) % 700, (doc.worldMap2xY + y - 58) % 500);
+    const int32_t width = doc.worldMap2x.width, height = doc.worldMap2x.height;
+    if (x >= 353 && x < 634 && y >= 58 && y < 335 && Reaches(doc.worldMap2xX, x - 353, width) &&
+        Reaches(doc.worldMap2xY, y - 58, height)) {
+      return ZoomedMapPixel((doc.worldMap2xX + x - 353) % width,
+                            (doc.worldMap2xY + y - 58) % height);
     }
     if (x >= 346 && x < 641 && y >= 52 && y < 341) return FramePixel(x - 346, y - 52);
   }
@@ -60,7 +70,8 @@ class CompositionTest : public EditorFixture {
   // Between the box's left columns and the frame's, above its top or below its bottom row.
   static bool OnFan(int32_t x, int32_t y) {
     if (x < doc.targetBoxX || x > 350) return false;
-    return (y >= 52 && y <= doc.targetBoxY) || (y >= doc.targetBoxY + 58 && y <= 337);
+    const auto [first, last] = std::minmax(doc.targetBoxY + doc.smallTargetBox.height, 337);
+    return (y >= 52 && y <= doc.targetBoxY) || (y >= first && y <= last);
   }
 
   static ImageClass Composed() {
@@ -100,6 +111,18 @@ TEST_F(CompositionTest, EveryPixelIsInItsPlaceAfterEachChange) {
       {"bottom layer only", [] { SetLayers(0, 1); }},
       {"top layer only", [] { SetLayers(1, 0); }},
       {"no layer", [] { SetLayers(0, 0); }},
+      {"templates that do not fit",
+       [] {
+         SetLayers(1, 1);
+         doc.worldMap =
+             MakePicture(390, 300, [](auto x, auto y) { return WorldMapPixel(Yuri, x, y); });
+         doc.worldMap2x = MakePicture(200, 130, ZoomedMapPixel);
+         doc.smallTargetBox = MakePicture(60, 310, TargetBoxPixel);
+         doc.sideOverlay =
+             MakePicture(810, 530, [](auto x, auto y) { return OverlayPixel(Yuri, 2, x, y); });
+         doc.worldMapX = 10, doc.worldMapY = 20, doc.worldMap2xX = 130, doc.worldMap2xY = 20,
+         doc.targetBoxY = 56;
+       }},
   };
   DIBClass dib(kPictureWidth, kPictureHeight);
   ImageClass image = Composed();
