@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr char kWebPage[] = "https://corvanta.example.org/";
 constexpr DWORD kFadeMilliseconds = 1000;
 constexpr LONG kTitleHeight = 30;
 
@@ -31,7 +30,7 @@ class AboutDialog final : public Dialog {
 INT_PTR AboutDialog::OnInit() {
   Send(IDC_ABOUT_TITLE, WM_SETFONT, reinterpret_cast<WPARAM>(doc.aboutTitleFont.get()), TRUE);
   const HWND link = Control(IDC_ABOUT_LINK);
-  SendMessageA(link, LM_SETADDRESS, reinterpret_cast<WPARAM>(kWebPage), 0);
+  SendMessageA(link, LM_SETADDRESS, reinterpret_cast<WPARAM>(CORVANTA_HOME_PAGE), 0);
   readme.Attach(Control(IDC_ABOUT_README));
   RedrawWindow(link, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
   SetCurrentDirectoryA(doc.appDir);

@@ -78,6 +78,7 @@ HWND Editor::Standing(const std::string& className, const std::string& caption) 
   return nullptr;
 }
 
+// The window is made as large as the picture needs, without a border for those who look at it.
 void Editor::WaitForPicture() {
   WaitUntil("the main window", [this] {
     main_ = Standing("PELMARClass", "Corvanta 1.1");
@@ -85,6 +86,12 @@ void Editor::WaitForPicture() {
     return view_ != nullptr;
   });
   BringToFront(main_);
+  RECT window{}, view{};
+  GetWindowRect(main_, &window);
+  GetClientRect(view_, &view);
+  SetWindowPos(main_, nullptr, 0, 0, window.right - window.left - view.right + kPictureWidth,
+               window.bottom - window.top - view.bottom + kPictureHeight,
+               SWP_NOMOVE | SWP_NOZORDER);
   WaitUntil("the picture to be drawn", [this] { return CountColours(ShownPicture()) > 100; });
 }
 
@@ -187,9 +194,14 @@ void Editor::OpenPicture(const std::string& path) const {
     list = FindChild(dialog, "SysListView32");
     return list && SendMessageA(list, LVM_GETITEMCOUNT, 0, 0) == 2;
   });
-  // A click beside the entries gives the list the keyboard.
-  PostClick(list, [](RECT area) { return POINT{area.right - 20, area.bottom - 20}; });
-  WaitUntil("the list to have the keyboard", [&] { return State().hwndFocus == list; });
+  // A click beside the entries gives the list the keyboard, once the dialog is at rest.
+  WaitUntil("the list to have the keyboard", [&] {
+    list = FindChild(dialog, "SysListView32");
+    if (list && State().hwndFocus == list) return true;
+    if (list) PostClick(list, [](RECT area) { return POINT{area.right - 20, area.bottom - 20}; });
+    Sleep(kHandled);
+    return false;
+  });
   const HWND preview = GetDlgItem(FindChild(dialog, "#32770"), IDC_OPEN_PREVIEW);
   // The folder is the first line, the picture the last.
   for (const WORD key : {WORD{VK_END}, WORD{VK_HOME}, WORD{VK_END}}) {

@@ -105,6 +105,8 @@ DIBClass CaptureScreen(const RECT& area, DWORD settled) {
 }
 
 void Screenshot(HWND window, const std::string& name) {
+  // What lies beyond the screen would be missing.
+  SetWindowPos(window, nullptr, 8, 32, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   RECT area{};
   GetWindowRect(window, &area);
   SaveResult("screen-" + name + ".png", CaptureScreen(area));

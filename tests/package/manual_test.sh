@@ -23,4 +23,6 @@ for page in *.html; do
   grep -qxF "$page" <(tr -d '\r' <manual.hhp) || say "$page is missing from manual.hhp"
   grep -q "^manual.hhc $page\$" <<<"$references" || say "$page is missing from the contents"
 done
+page=$(sed -n 's/.*HOMEPAGE_URL \([^ ]*\).*/\1/p' ../../CMakeLists.txt)
+grep -qF "<$page>" ../../README.md && grep -qF "\"$page\"" about.html || say "README and manual name another page than $page"
 exit $wrong

@@ -11,6 +11,9 @@ zip=$(make_package ZIP)
 (cd "$unpacked" && cmake -E tar x "$zip")
 program=$(find "$unpacked" -name Corvanta.exe)
 [ -n "$program" ] || fail "there is no Corvanta.exe in the zip"
+for paper in Readme License Notices; do
+  [ -s "${program%/*}/$paper.txt" ] || fail "$paper.txt is missing"
+done
 for file in "$program" "${program%/*}/ImageLib.dll"; do
   if grep -q debug_info "$file"; then fail "$file carries debug symbols"; fi
   headers=$(x86_64-w64-mingw32-objdump -p "$file")
