@@ -3,22 +3,22 @@
 include(cmake/PackageManual.cmake)
 
 # The shipped binaries carry nothing that is never called, and stop at a stack that was overrun.
-foreach(target editor Corvanta ImageLib)
+foreach(target editor Corvanta ImageLib sprite corvanta-sprite)
   target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections -fstack-protector)
 endforeach()
-foreach(target Corvanta ImageLib)
+foreach(target Corvanta ImageLib corvanta-sprite)
   target_link_options(${target} PRIVATE -Wl,--gc-sections)
 endforeach()
 target_link_libraries(editor PUBLIC ssp)
 target_link_libraries(ImageLib PRIVATE ssp)
 
 # One flat folder: the editor looks for everything beside its executable.
-install(TARGETS Corvanta ImageLib RUNTIME DESTINATION .)
+install(TARGETS Corvanta ImageLib corvanta-sprite RUNTIME DESTINATION .)
 # The symbols stay behind, in the build folder. Without -p, which CPack's own stripping lacks, each
 # run would write another time into the files.
 install(
   CODE "
-  foreach(name Corvanta.exe ImageLib.dll)
+  foreach(name Corvanta.exe ImageLib.dll corvanta-sprite.exe)
     execute_process(COMMAND \"${CMAKE_STRIP}\" -p \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/\${name}\"
                     COMMAND_ERROR_IS_FATAL ANY)
   endforeach()")

@@ -7,9 +7,6 @@
 // The side colour 0xRRGGBB of an item colour choice, 0 to 2.
 uint32_t SideColour(int32_t itemColour);
 
-// Pixels of this colour take the side colour.
-inline constexpr uint32_t kSideMarker = 0xFFFF00;
-
 // The preview of "Add new item": doc.itemPreview, tinted, in the middle of a static control.
 class ItemPreview {
  public:

@@ -19,14 +19,6 @@ int32_t GeneratePalette(const ImageClass& picture, int32_t colours, ShpPalette& 
   return static_cast<int32_t>(quantizer.EntryCount());
 }
 
-// By their names only: upper and lower case make no difference, nor do ".\" and its like.
-bool AreSameFile(const char* one, const char* other) {
-  char full[2][MAX_PATH] = {};
-  const DWORD length = GetFullPathNameA(one, MAX_PATH, full[0], nullptr);
-  GetFullPathNameA(other, MAX_PATH, full[1], nullptr);
-  return length > 0 && length < MAX_PATH && lstrcmpiA(full[0], full[1]) == 0;
-}
-
 std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& palette,
                                 int32_t usedEntries, const ExportProgress& progress) {
   std::vector<uint8_t> indices(static_cast<size_t>(picture.width) *
@@ -41,6 +33,13 @@ std::vector<uint8_t> MapPicture(const ImageClass& picture, const ShpPalette& pal
 }
 
 }  // namespace
+
+bool AreSameFile(const char* one, const char* other) {
+  char full[2][MAX_PATH] = {};
+  const DWORD length = GetFullPathNameA(one, MAX_PATH, full[0], nullptr);
+  GetFullPathNameA(other, MAX_PATH, full[1], nullptr);
+  return length > 0 && length < MAX_PATH && lstrcmpiA(full[0], full[1]) == 0;
+}
 
 FailedStep RunShpExport(const ImageClass& picture, const ShpExport& request,
                         const ExportProgress& progress) {

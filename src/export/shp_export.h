@@ -20,6 +20,10 @@ struct ShpExport {
 enum class ExportStep { PaletteMade, RowsMapped, DataWritten };
 using ExportProgress = std::function<void(ExportStep)>;
 
+// Whether two paths name one file, by the names only: upper and lower case make no difference, nor
+// do ".\" and its like.
+bool AreSameFile(const char* one, const char* other);
+
 // Writes the picture as a sprite file and, when it is generated, its palette. Unused entries of a
 // generated palette are black in the file and no pixel's colour. One file for both is refused
 // before either would replace the other. Throws std::bad_alloc.

@@ -9,6 +9,7 @@
 #include "imagelib/codecs.h"
 #include "imagelib/container.h"
 #include "imagelib/file_bytes.h"
+#include "imagelib/replace_file.h"
 
 namespace {
 

@@ -5,6 +5,8 @@
 
 // The colour of overlays, the target box and items that is not drawn: pure blue, all 32 bits.
 inline constexpr uint32_t kKeyColour = 0x0000FF;
+// The colour of symbols that takes the side's: pure yellow.
+inline constexpr uint32_t kSideMarker = 0xFFFF00;
 
 // A rectangle of 32-bit pixels 0x00RRGGBB (blue in the low byte; the top byte is stored and
 // compared but never interpreted). (0, 0) is the top-left pixel.

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kLongestValue = 255;
+constexpr int kLongestValue = int{kLongestCatalogueValue};
 
 // Takes the next piece off the front of the text; an empty one when only commas are left.
 std::string_view TakePiece(std::string_view& text) {

@@ -8,6 +8,9 @@
 // The picture catalogues of "Settings.ini": each value of a catalogue's section is a text to show
 // and the name of a picture in the Templates folder, with a comma between them.
 
+// How much of a value is read, in bytes.
+inline constexpr size_t kLongestCatalogueValue = 255;
+
 struct CatalogueEntry {
   std::string text;
   std::string fileName;

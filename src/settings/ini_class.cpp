@@ -33,6 +33,20 @@ constexpr size_t kLongestWord = 79;
 
 }  // namespace
 
+IniLine ParseIniLine(std::string_view line) {
+  IniLine parsed;
+  parsed.text = TrimSpaces(WithoutComment(line));
+  parsed.isHeader = IsHeader(parsed.text);
+  const size_t equals = parsed.text.find('=');
+  const bool one = equals == parsed.text.rfind('=');
+  if (one && equals > 0 && equals + 1 < parsed.text.size()) parsed.equals = equals;
+  return parsed;
+}
+
+std::string_view IniLine::SectionName() const {
+  return TrimSpaces(text.substr(1, text.size() - 2));
+}
+
 std::vector<size_t>::const_iterator IniSection::PlaceOf(std::string_view key) const {
   return std::lower_bound(
       firsts.begin(), firsts.end(), key,
@@ -65,17 +79,14 @@ bool IniClass::Load() {
   return true;
 }
 
-void IniClass::ParseLine(std::string_view line) {
-  line = TrimSpaces(WithoutComment(line));
-  if (IsHeader(line)) {
-    const std::string_view name = TrimSpaces(line.substr(1, line.size() - 2));
-    sections.push_back({std::string(name.substr(0, kLongestSectionName)), {}, {}});
+void IniClass::ParseLine(std::string_view text) {
+  const IniLine line = ParseIniLine(text);
+  if (line.isHeader) {
+    sections.push_back({std::string(line.SectionName().substr(0, kLongestSectionName)), {}, {}});
   }
-  // A header may hold an '=' and is a key line too then.
-  const size_t equals = line.find('=');
-  if (equals == std::string_view::npos || equals != line.rfind('=')) return;
-  if (equals == 0 || equals == line.size() - 1 || sections.empty()) return;
-  sections.back().Add(line.substr(0, std::min(equals, kLongestKey)), line.substr(equals + 1));
+  if (!line.IsKeyLine() || sections.empty()) return;
+  sections.back().Add(line.text.substr(0, std::min(line.equals, kLongestKey)),
+                      line.text.substr(line.equals + 1));
 }
 
 void IniClass::Reset() {

@@ -5,6 +5,20 @@
 #include <utility>
 #include <vector>
 
+// What a line of a settings file says, nothing cut yet.
+struct IniLine {
+  std::string_view text;                   // without its comment and the spaces at its ends
+  bool isHeader = false;                   // a name in brackets
+  size_t equals = std::string_view::npos;  // where key and value part; npos for no key line
+
+  bool IsKeyLine() const { return equals != std::string_view::npos; }
+  // Of a header, without its brackets.
+  std::string_view SectionName() const;
+};
+
+// Reads one line without its line feed. A header that holds an '=' is a key line too.
+IniLine ParseIniLine(std::string_view line);
+
 // A section of a settings file: its key/value pairs in file order, repeated keys included.
 struct IniSection {
   std::string name;  // at most IniClass::kLongestSectionName characters

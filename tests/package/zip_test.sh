@@ -14,7 +14,7 @@ program=$(find "$unpacked" -name Corvanta.exe)
 for paper in Readme License Notices; do
   [ -s "${program%/*}/$paper.txt" ] || fail "$paper.txt is missing"
 done
-for file in "$program" "${program%/*}/ImageLib.dll"; do
+for file in "$program" "${program%/*}"/{ImageLib.dll,corvanta-sprite.exe}; do
   if grep -q debug_info "$file"; then fail "$file carries debug symbols"; fi
   headers=$(x86_64-w64-mingw32-objdump -p "$file")
   for needed in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT 'Virtual Address: .* Chunk size'; do
