@@ -38,8 +38,8 @@ int32_t SquaredDistance(uint32_t one, uint32_t other) {
 
 // How often a colour occurs, and colours nearly like it.
 struct ColourUse {
-  int32_t exact = 0, near = 0;
-  int32_t nearX = 0, nearY = 0;  // the first of those
+  int32_t exact = 0, alike = 0;
+  int32_t alikeX = 0, alikeY = 0;  // the first of those
 };
 
 ColourUse UseOf(const ImageClass& picture, uint32_t colour) {
@@ -50,7 +50,7 @@ ColourUse UseOf(const ImageClass& picture, uint32_t colour) {
       if (row[x] == colour) ++use.exact;
       if (row[x] == colour || SquaredDistance(row[x], colour) >= kNearColour * kNearColour)
         continue;
-      if (use.near++ == 0) use.nearX = x, use.nearY = y;
+      if (use.alike++ == 0) use.alikeX = x, use.alikeY = y;
     }
   }
   return use;
@@ -94,9 +94,9 @@ class PictureCheck::Picture {
   void CheckColour(uint32_t colour, const char* name, const char* without) const {
     const ColourUse use = UseOf(image_, colour);
     if (use.exact == 0) Warn(std::string("has no ") + name + ": " + without);
-    if (use.near > 0) {
-      Warn("has " + std::to_string(use.near) + " pixels that are nearly " + name +
-           ", the first at " + std::to_string(use.nearX) + ", " + std::to_string(use.nearY));
+    if (use.alike > 0) {
+      Warn("has " + std::to_string(use.alike) + " pixels that are nearly " + name +
+           ", the first at " + std::to_string(use.alikeX) + ", " + std::to_string(use.alikeY));
     }
   }
   void CheckTransparency() const {

@@ -69,6 +69,7 @@ DWORD GetCurrentDirectoryA(DWORD size, LPSTR buffer) {
 }
 
 DWORD GetFullPathNameA(LPCSTR path, DWORD size, LPSTR buffer, LPSTR*) {
+  if (*path == '\0') return 0;
   const std::filesystem::path native = standin::NativePath(path);
   return CopyPath(std::filesystem::absolute(native).lexically_normal().string(), buffer, size);
 }
