@@ -67,9 +67,9 @@ void LineCheck::CheckLines(std::string_view text) {
 
 void LineCheck::CheckLine(std::string_view text) {
   const IniLine line = ParseIniLine(text);
-  if (line.isHeader) OpenSection(line.SectionName());
+  if (line.IsHeader()) OpenSection(SectionName(line.text));
   if (!line.IsKeyLine()) {
-    if (!line.isHeader && !line.text.empty()) CheckIgnored(line.text);
+    if (!line.IsHeader() && !line.text.empty()) CheckIgnored(line.text);
     return;
   }
   if (!inSection_) Warn("stands before the first section and is ignored");

@@ -17,10 +17,6 @@ std::string_view TrimSpaces(std::string_view text) {
 
 std::string_view WithoutComment(std::string_view line) { return line.substr(0, line.find(';')); }
 
-bool IsHeader(std::string_view line) {
-  return !line.empty() && line.front() == '[' && line.back() == ']';
-}
-
 bool EqualIgnoringCase(std::string_view text, std::string_view lowerCase) {
   const auto same = [](char a, char lower) {
     return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == lower;
@@ -36,15 +32,14 @@ constexpr size_t kLongestWord = 79;
 IniLine ParseIniLine(std::string_view line) {
   IniLine parsed;
   parsed.text = TrimSpaces(WithoutComment(line));
-  parsed.isHeader = IsHeader(parsed.text);
   const size_t equals = parsed.text.find('=');
   const bool one = equals == parsed.text.rfind('=');
   if (one && equals > 0 && equals + 1 < parsed.text.size()) parsed.equals = equals;
   return parsed;
 }
 
-std::string_view IniLine::SectionName() const {
-  return TrimSpaces(text.substr(1, text.size() - 2));
+std::string_view SectionName(std::string_view header) {
+  return TrimSpaces(header.substr(1, header.size() - 2));
 }
 
 std::vector<size_t>::const_iterator IniSection::PlaceOf(std::string_view key) const {
@@ -81,8 +76,9 @@ bool IniClass::Load() {
 
 void IniClass::ParseLine(std::string_view text) {
   const IniLine line = ParseIniLine(text);
-  if (line.isHeader) {
-    sections.push_back({std::string(line.SectionName().substr(0, kLongestSectionName)), {}, {}});
+  if (line.IsHeader()) {
+    sections.push_back(
+        {std::string(SectionName(line.text).substr(0, kLongestSectionName)), {}, {}});
   }
   if (!line.IsKeyLine() || sections.empty()) return;
   sections.back().Add(line.text.substr(0, std::min(line.equals, kLongestKey)),
@@ -97,10 +93,10 @@ void IniClass::Reset() {
 
 const IniSection* IniClass::FindSection(std::string_view section) const {
   if (!hasName) return nullptr;
-  const auto found =
-      std::find_if(sections.begin(), sections.end(),
-                   [section](const IniSection& candidate) { return candidate.name == section; });
-  return found == sections.end() ? nullptr : &*found;
+  for (const IniSection& candidate : sections) {
+    if (candidate.name == section) return &candidate;
+  }
+  return nullptr;
 }
 
 const std::string* IniClass::FindValue(std::string_view section, std::string_view key) const {

@@ -8,13 +8,15 @@
 // What a line of a settings file says, nothing cut yet.
 struct IniLine {
   std::string_view text;                   // without its comment and the spaces at its ends
-  bool isHeader = false;                   // a name in brackets
   size_t equals = std::string_view::npos;  // where key and value part; npos for no key line
 
   bool IsKeyLine() const { return equals != std::string_view::npos; }
-  // Of a header, without its brackets.
-  std::string_view SectionName() const;
+  // Whether the text is a name in brackets.
+  bool IsHeader() const { return !text.empty() && text.front() == '[' && text.back() == ']'; }
 };
+
+// The name in a header's brackets.
+std::string_view SectionName(std::string_view header);
 
 // Reads one line without its line feed. A header that holds an '=' is a key line too.
 IniLine ParseIniLine(std::string_view line);
