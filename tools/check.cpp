@@ -1,6 +1,7 @@
 #include "tools/check.h"
 
 #include "platform/win32.h"
+#include "tools/output_texts.h"
 #include "tools/picture_check.h"
 #include "tools/settings_check.h"
 #include "tools/text_check.h"
@@ -26,10 +27,6 @@ void CheckReadme(const std::string& folder, Findings& findings) {
     return findings.Warn(kReadme, "is missing or empty: the About box shows no text");
   }
   if (!IsUtf8(text)) findings.Warn(kReadme, "is not UTF-8: the About box shows other characters");
-}
-
-std::string Counted(int32_t count, const char* what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include "export/shp_export.h"
 #include "imagelib/replace_file.h"
 #include "imaging/image_files.h"
-#include "tools/output_files.h"
+#include "tools/output_texts.h"
 #include "tools/sprite_file.h"
 
 namespace {

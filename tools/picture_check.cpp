@@ -5,7 +5,7 @@
 #include "document/load_screen_doc.h"
 #include "files/template_path.h"
 #include "imaging/image_files.h"
-#include "tools/output_files.h"
+#include "tools/output_texts.h"
 
 namespace {
 
@@ -95,8 +95,8 @@ class PictureCheck::Picture {
     const ColourUse use = UseOf(image_, colour);
     if (use.exact == 0) Warn(std::string("has no ") + name + ": " + without);
     if (use.alike > 0) {
-      Warn("has " + std::to_string(use.alike) + " pixels that are nearly " + name +
-           ", the first at " + std::to_string(use.alikeX) + ", " + std::to_string(use.alikeY));
+      Warn("has " + Counted(use.alike, "pixel") + " of nearly " + name + ", the first at " +
+           std::to_string(use.alikeX) + ", " + std::to_string(use.alikeY));
     }
   }
   void CheckTransparency() const {

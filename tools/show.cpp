@@ -2,7 +2,7 @@
 
 #include "imaging/image_class.h"
 #include "imaging/image_files.h"
-#include "tools/output_files.h"
+#include "tools/output_texts.h"
 #include "tools/sprite_file.h"
 
 namespace {

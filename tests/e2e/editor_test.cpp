@@ -11,24 +11,23 @@
 #include "support/picture_difference.h"
 #include "support/temp_folder.h"
 #include "support/user.h"
+#include "tools/run.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// The picture that the contents of a sprite file and its palette file show; empty when they have
-// not the sizes of such files.
+// The picture that the contents of a sprite file and its palette file show; empty when they are no
+// such files.
 ImageClass ReadSprite(const std::string& shp, const std::string& pal) {
-  ImageClass picture;
-  if (shp.size() != 416032 || pal.size() != 768) return picture;
-  picture.Create(800, 520);
-  for (size_t i = 0; i < 416000; ++i) {
-    const size_t entry = static_cast<uint8_t>(shp[32 + i]) * 3U;
-    const auto part = [&](size_t n) { return static_cast<uint8_t>(pal[entry + n]) * 4U; };
-    picture.PutPixel(static_cast<int32_t>(i % 800), static_cast<int32_t>(i / 800),
-                     part(0) << 16 | part(1) << 8 | part(2));
-  }
-  return picture;
+  const TempFolder folder;
+  const std::string names[] = {folder.Path("a.shp"), folder.Path("a.pal"), folder.Path("a.png")};
+  WriteContent(names[0], shp);
+  WriteContent(names[1], pal);
+  Output output;
+  const std::vector<std::string> show = {"show", names[0], names[1], names[2]};
+  EXPECT_EQ(RunSprite(show, output), kDone) << output.err;
+  return output.err.empty() ? LoadPicture(names[2]) : ImageClass();
 }
 
 // Saves the picture by "Save as..." and compares it with what the view shows, in which the system

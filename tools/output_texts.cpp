@@ -1,4 +1,4 @@
-#include "tools/output_files.h"
+#include "tools/output_texts.h"
 
 #include <algorithm>
 
@@ -24,4 +24,8 @@ std::string OverwritingFault(const std::string& written,
 
 std::string SizeText(int32_t width, int32_t height) {
   return std::to_string(width) + " x " + std::to_string(height);
+}
+
+std::string Counted(int32_t count, const char* what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }

@@ -13,3 +13,5 @@ std::string OverwritingFault(const std::string& written, std::initializer_list<s
 
 // "800 x 520"
 std::string SizeText(int32_t width, int32_t height);
+// "1 pixel", "2 pixels"
+std::string Counted(int32_t count, const char* what);
