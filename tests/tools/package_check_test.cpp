@@ -110,7 +110,7 @@ TEST(PackageCheckTest, EveryDamagedPictureIsNamedWithItsReason) {
   EXPECT_EQ(expected, Found(folder.Path(), kFound));
   // Warnings alone leave nothing to mend.
   std::filesystem::remove_all(folder.Path("Templates"));
-  std::filesystem::copy(CORVANTA_SOURCE "/templates" "/Templates", folder.Path("Templates"));
+  std::filesystem::copy(CORVANTA_SOURCE "/templates/Templates", folder.Path("Templates"));
   WriteContent(folder.Path("Templates/readme.txt"), "\xE9");
   EXPECT_EQ("warning: Templates\\readme.txt: is not UTF-8: the About box shows other characters\n",
             Found(folder.Path(), kDone));
