@@ -1,13 +1,6 @@
 #pragma once
 
-// While it lives, a console shows the program's texts as the UTF-8 that they are.
-class ConsoleText {
- public:
-  ConsoleText();
-  ~ConsoleText();
-  ConsoleText(const ConsoleText&) = delete;
-  ConsoleText& operator=(const ConsoleText&) = delete;
-
- private:
-  unsigned before_ = 0;
-};
+// Makes a console show the program's texts as the UTF-8 that they are. The result is what
+// RestoreConsole takes at the end: a console outlives the program.
+unsigned UseUtf8Console();
+void RestoreConsole(unsigned before);

@@ -1,6 +1,6 @@
 #include "tools/console.h"
 
 // Terminals show UTF-8 as it is.
-ConsoleText::ConsoleText() = default;
+unsigned UseUtf8Console() { return 0; }
 
-ConsoleText::~ConsoleText() = default;
+void RestoreConsole(unsigned) {}

@@ -1,9 +1,12 @@
 #include "platform/win32.h"
 #include "tools/console.h"
 
-// The console keeps its code page when the program has ended, so it gets the old one back.
-ConsoleText::ConsoleText() : before_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
+unsigned UseUtf8Console() {
+  const UINT before = GetConsoleOutputCP();
+  SetConsoleOutputCP(CP_UTF8);
+  return before;
+}
 
-ConsoleText::~ConsoleText() {
-  if (before_ != 0) SetConsoleOutputCP(before_);
+void RestoreConsole(unsigned before) {
+  if (before != 0) SetConsoleOutputCP(before);
 }

@@ -40,7 +40,7 @@ std::string HeaderFault(const SHP2FILEHEADER& header) {
 // `start` is where the frame's record lies, `tableEnd` where the last one ends.
 std::string FrameFault(const SpriteFrame& frame, uint32_t start, uint32_t tableEnd, uint32_t size) {
   const auto& [header, info, indices] = frame;
-  const std::string fault =
+  std::string fault =
       FirstFault({{"frame x", start, info.frameX, 0, header.imageWidth - 1U},
                   {"frame y", start + 2, info.frameY, 0, header.imageHeight - 1U},
                   {"frame width", start + 4, info.frameWidth, 1,
