@@ -10,7 +10,7 @@ from pathlib import Path
 
 from . import appicon, battlefield, cameos, canvas, catalogue, frames, globe, overlays, scenes, symbols, worldmap
 
-MAP_COLOURS = 64
+MAP_COLOURS, ZOOMED_COLOURS = 64, 96
 
 
 def side_maps(coast, out):
@@ -20,7 +20,7 @@ def side_maps(coast, out):
 
 
 def zoomed_map(coast, out):
-    canvas.save(worldmap.paint(globe.Globe(coast, canvas.ZOOM), "com", MAP_COLOURS), out / "Templates/com_worldmap2x.png")
+    canvas.save(worldmap.paint(globe.Globe(coast, canvas.ZOOM), "com", ZOOMED_COLOURS), out / "Templates/com_worldmap2x.png")
 
 
 def side_overlay(side, count, out):

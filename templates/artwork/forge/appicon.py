@@ -8,7 +8,7 @@ import cairo
 import numpy as np
 from PIL import Image
 
-SIZES = (16, 32, 48, 256)
+SIZES = (16, 24, 32, 48, 64, 256)
 
 
 def _rounded(c, x, y, w, h, r):
@@ -126,11 +126,11 @@ def _bitmap(image):
 
 
 def icon_file():
-    """The bytes of the .ico: bitmaps for the small sizes, PNG for the largest."""
+    """The bytes of the .ico: bitmaps for the small sizes, PNG for the large ones, which packs them."""
     blobs = []
     for size in SIZES:
         image = _draw(size)
-        if size < 256:
+        if size < 48:
             blobs.append(_bitmap(image))
         else:
             packed = io.BytesIO()

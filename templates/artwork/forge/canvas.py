@@ -10,12 +10,13 @@ FRAME_AT = (346, 52)  # the large frame's corner; its window opens at (353, 58)
 FRAME_SIZE = (295, 289)
 WINDOW_AT = (353, 58)
 WINDOW_SIZE = (281, 277)
-BOX_SIZE = (84, 82)  # the small target box
+BOX_SIZE = (112, 111)  # the small target box: what it surrounds is what the frame shows
 BOX_AT = (232, 103)  # where it and the zoomed map's offset stand when the editor starts
 SHOT_AT = (542, 267)
 ICONS_AT = {2: [(311, 380), (405, 380)], 3: [(256, 380), (350, 380), (444, 380)]}
-MAP_SIZE = (1600, 1040)
-ZOOM = 2
+MAP_SIZE = (1280, 832)
+ZOOM = 2.5  # WINDOW_SIZE over BOX_SIZE
+ZOOMED_SIZE = (3200, 2080)
 
 KEY = (0, 0, 255)  # transparent in overlays, the target box and symbols
 SIDE_INK = (255, 255, 0)  # becomes the side's colour in symbols

@@ -12,7 +12,7 @@ from PIL import Image
 from scipy import ndimage
 
 from .canvas import (BOX_SIZE, FRAME_AT, FRAME_SIZE, ICON, ICONS_AT, KEY, KEY_DISTANCE, MAP_SIZE, SCREEN, SHOT, SHOT_AT, SIDE_INK,
-                     SIDES, WINDOW_SIZE, ZOOM)
+                     SIDES, WINDOW_SIZE, ZOOMED_SIZE)
 
 WEIGHT = 12_000_000  # bytes of all pictures together
 SMALLEST_GAP = 100  # pixels of map that are seen as one piece through an overlay
@@ -87,7 +87,7 @@ def check_frames(package):
 
 
 def check_maps(package):
-    for name, size in [(f"{side}_worldmap.png", MAP_SIZE) for side in SIDES] + [("com_worldmap2x.png", tuple(ZOOM * n for n in MAP_SIZE))]:
+    for name, size in [(f"{side}_worldmap.png", MAP_SIZE) for side in SIDES] + [("com_worldmap2x.png", ZOOMED_SIZE)]:
         picture = package.sized(name, size)
         if picture is None:
             continue

@@ -35,23 +35,35 @@ def small_box():
     level, tube = _tube_frame(BOX_SIZE, 5, 3)
     picture = np.zeros((h, w, 3)) + KEY
     picture[tube] = level[tube][:, None] * np.array([1, 1, 0.99])
-    dark = hexrgb("101418")
+    dark, light = hexrgb("101418"), hexrgb("f0f0e4")
     inner = np.zeros((h, w), bool)
     inner[3 : h - 3, 5 : w - 3] = True
     inner[4 : h - 4, 6 : w - 4] = False
     picture[inner] = dark
-    light, cx, cy = hexrgb("f0f0e4"), (w + 2) // 2, h // 2
-    for reach, colour in ((1, dark), (0, light)):  # cross hairs with a dark rim
-        for start, stop in ((-14 - reach, -5 + reach), (5 - reach, 14 + reach)):
-            picture[cy + start : cy + stop + 1, cx - reach : cx + reach + 1] = colour
-            picture[cy - reach : cy + reach + 1, cx + start : cx + stop + 1] = colour
-        for sx in (-1, 1):
-            for sy in (-1, 1):
-                ax, ay = cx + sx * (w // 2 - 11), cy + sy * (h // 2 - 9)
-                for step in range(8 + reach):
-                    for px, py in ((ax - sx * step, ay), (ax, ay - sy * step)):
-                        picture[py - reach : py + reach + 1, px - reach : px + reach + 1] = colour
+    # Brackets in the corners and ticks at the middle of each side; what is aimed at stays free.
+    left, top, right, bottom = 11, 9, w - 10, h - 10
+    for reach, colour in ((1, dark), (0, light)):
+        for x, y, dx, dy in ((left, top, 1, 1), (right, top, -1, 1), (left, bottom, 1, -1), (right, bottom, -1, -1)):
+            _line(picture, x, y, dx * 13, 0, reach, colour)
+            _line(picture, x, y, 0, dy * 13, reach, colour)
+        for x, y, dx, dy in (((left + right) // 2, 6, 0, 6), ((left + right) // 2, h - 7, 0, -6),
+                             (8, h // 2, 6, 0), (w - 7, h // 2, -6, 0)):
+            _line(picture, x, y, dx, dy, reach, colour)
+    _rivets(picture, w, h)
     return picture.astype(np.uint8)
+
+
+def _line(picture, x, y, dx, dy, reach, colour):
+    """A straight line of that many pixels on from (x, y), with so many beside it."""
+    x0, x1, y0, y1 = min(x, x + dx), max(x, x + dx), min(y, y + dy), max(y, y + dy)
+    picture[y0 - reach : y1 + reach + 1, x0 - reach : x1 + reach + 1] = colour
+
+
+def _rivets(picture, w, h):
+    """Bolts where the tubes meet on the right, as on the consoles; the left is the lines' own."""
+    for x, y in ((w - 2, 1), (w - 2, h - 2)):
+        picture[y - 1 : y + 2, x - 1 : x + 2] = hexrgb("6c747c")
+        picture[y, x] = hexrgb("30363c")
 
 
 def large_frame():
@@ -70,6 +82,9 @@ def large_frame():
         if 8 < y < h - 8:
             picture[y, 1 : 5 if long else 3] = red if long else ink
             picture[y, w - (5 if long else 3) : w - 1] = red if long else ink
+    for y in (6, h - 7):  # plates hold the right corners
+        picture[y - 6 : y + 7, w - 5 : w] *= 0.82
+        picture[y, w - 3] = ink
     # Seen only until the zoomed map is drawn over it.
     pixelfont.write(picture, "NO MAP", w // 2, h // 2 - 3, hexrgb("586068"), font=pixelfont.CAPS, spacing=2, align="centre")
     return picture.astype(np.uint8)

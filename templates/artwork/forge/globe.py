@@ -11,13 +11,13 @@ import cairo
 import numpy as np
 from scipy import ndimage
 
-from .canvas import BOX_AT, BOX_SIZE, MAP_SIZE, WINDOW_SIZE, ZOOM
+from .canvas import BOX_AT, BOX_SIZE, MAP_SIZE, WINDOW_SIZE, ZOOM, ZOOMED_SIZE
 from .noise import clouds
 from .places import RANGES
 
 STRETCH = 0.9  # of the projection, as in coast.mjs
-WEST_EDGE = -48  # degrees east of the left edge: off the meridians that the graticule draws
-TOP_EDGE = 68.5  # degrees north of the top edge: brings Europe under the target box
+WEST_EDGE = -67  # degrees east of the left edge: off the meridians that the graticule draws
+TOP_EDGE = 72.8  # degrees north of the top edge: brings Europe under the target box
 STRIP_AT = -1.48  # projected latitude of the scale strip in the empty ocean
 
 
@@ -26,11 +26,12 @@ def projected_latitude(degrees):
 
 
 class Globe:
-    """One map's pixel grid. zoom 1 is the side maps' size, 2 the zoomed map's."""
+    """One map's pixel grid. zoom 1 is the side maps' size, ZOOM the zoomed map's."""
 
     def __init__(self, coast_file, zoom=1):
         self.zoom = zoom
-        self.width, self.height = MAP_SIZE[0] * zoom, MAP_SIZE[1] * zoom
+        self.bold = round(zoom * 0.8)  # pixels of what is 1 wide on the side maps
+        self.width, self.height = MAP_SIZE if zoom == 1 else ZOOMED_SIZE
         self.radius = self.width / (2 * math.pi)
         self.top = projected_latitude(TOP_EDGE)
         self.origin = (0, 0) if zoom == 1 else zoomed_origin()
@@ -115,9 +116,11 @@ class Globe:
 
     def noise(self, seed, coarsest, roughness):
         """Cloudy noise, mean 0 and deviation 1, that repeats seamlessly at the map's edges."""
-        field = clouds((MAP_SIZE[1] * 2, MAP_SIZE[0] * 2), seed, coarsest, roughness)
+        field = clouds(ZOOMED_SIZE[::-1], seed, coarsest, roughness)
         if self.zoom == 1:
-            field = field.reshape(MAP_SIZE[1], 2, MAP_SIZE[0], 2).mean(axis=(1, 3))
+            field = ndimage.uniform_filter(field, 3, mode="wrap")
+            rows, columns = (((np.arange(n) + 0.5) * ZOOM).astype(int) for n in MAP_SIZE[::-1])
+            field = field[np.ix_(rows, columns)]
         else:
             field = np.roll(field, (-self.origin[1], -self.origin[0]), (0, 1))
         return ((field - field.mean()) / field.std()).astype(np.float32)

@@ -120,21 +120,32 @@ def power(c):
 
 
 def radar(c):
+    # A dish that looks to the upper right, on a mast, with what it sends.
     c.new_path()
-    c.arc(13.5, 8, 8.4, math.radians(65), math.radians(205))
+    c.arc(12.5, 10.5, 8.6, math.radians(45), math.radians(225))
     c.close_path()
     c.fill()
-    _stroke(c, 1.8, (11, 11), (17.4, 3.4))
-    _disc(c, 18, 3, 2)
-    _poly(c, (9, 15), (13, 16), (17, 23.5), (4, 23.5))
+    _stroke(c, 1.6, (10.5, 12.5), (15.6, 7.4))
+    for r in (4.6, 8.4):
+        _bow(c, 14.6, 8.4, r, 1.8, -80, -10)
+    _poly(c, (7.4, 16), (11, 17.6), (15, 24), (3.4, 24))
 
 
 def airfield(c):
-    _poly(c, (7.5, 24), (10.4, 0), (13.6, 0), (16.5, 24), (13, 24), (12.8, 18), (11.2, 18), (11, 24))
-    _bar(c, 0.5, 6, 6, 3)
-    _bar(c, 17.5, 6, 6, 3)
-    _bar(c, 0, 15, 5, 3)
-    _bar(c, 19, 15, 5, 3)
+    # A runway in perspective with its middle line, and a tower beside it.
+    c.set_fill_rule(1)
+    c.new_path()
+    outlines = [((6.4, 24), (10, 0), (14, 0), (17.6, 24))]
+    outlines += [((12 - w, y), (12 + w, y), (12 + w, y + h), (12 - w, y + h))
+                 for w, y, h in ((0.5, 2, 3), (0.7, 7.5, 4), (0.9, 14, 5), (1.1, 21, 3))]
+    for outline in outlines:
+        c.new_sub_path()
+        for x, y in outline:
+            c.line_to(x, y)
+        c.close_path()
+    c.fill()
+    _poly(c, (18.4, 4), (24, 4), (23, 8), (22.6, 8), (22.6, 16), (19.8, 16), (19.8, 8), (19.4, 8))
+    _poly(c, (0, 11), (6.4, 9), (6.4, 16), (0, 16))
 
 
 def harbour(c):
@@ -184,10 +195,11 @@ def flag(c):
 
 
 def crosshair(c):
-    _bow(c, 12, 12, 8, 2.6)
-    for x, y, w, h in ((10.9, -0.5, 2.2, 8), (10.9, 16.5, 2.2, 8), (-0.5, 10.9, 8, 2.2), (16.5, 10.9, 8, 2.2)):
+    # A ring with ticks that leave the target itself free, and its middle marked.
+    _bow(c, 12, 12, 8.6, 2.2)
+    for x, y, w, h in ((11, -0.5, 2, 7), (11, 17.5, 2, 7), (-0.5, 11, 7, 2), (17.5, 11, 7, 2)):
         _bar(c, x, y, w, h)
-    _disc(c, 12, 12, 1.5)
+    _disc(c, 12, 12, 1.8)
 
 
 def explosion(c):
@@ -198,6 +210,34 @@ def explosion(c):
         points.append((12 + r * math.sin(a), 12 - r * math.cos(a)))
         a += math.pi / len(reach)
         points.append((12 + 5.6 * math.sin(a), 12 - 5.6 * math.cos(a)))
+    _poly(c, *points)
+
+
+def star_inner(c):
+    points = []
+    for i in range(10):
+        r = 5.6 if i % 2 == 0 else 2.3
+        points.append((12 + r * math.sin(math.pi * i / 5), 13 - r * math.cos(math.pi * i / 5)))
+    _poly(c, *points)
+
+
+def flag_inner(c):
+    # The pole, and a stripe along the cloth.
+    _bar(c, 3.6, 1, 1.4, 22)
+    c.new_path()
+    c.move_to(7.6, 5.2)
+    c.curve_to(11, 3.6, 15, 8.6, 21.5, 6.4)
+    c.line_to(21.5, 9)
+    c.curve_to(15, 11.2, 11, 6.2, 7.6, 7.8)
+    c.close_path()
+    c.fill()
+
+
+def explosion_inner(c):
+    points = []
+    for i in range(14):
+        r = 5.8 if i % 2 == 0 else 3
+        points.append((12 + r * math.sin(math.pi * i / 7), 12 - r * math.cos(math.pi * i / 7)))
     _poly(c, *points)
 
 

@@ -38,6 +38,7 @@ _ARROWS = [("up", 0), ("up right", 45), ("right", 90), ("down right", 135), ("do
 SYMBOLS = [
     *[Symbol(f"Arrow {name}", f"arrow_{name.replace(' ', '_')}", "free", 40, turn, "arrow") for name, turn in _ARROWS],
     Symbol("Spearhead up", "spearhead_up", "free", 48, 0, "spearhead"),
+    Symbol("Spearhead down", "spearhead_down", "free", 48, 180, "spearhead"),
     Symbol("Spearhead left", "spearhead_left", "free", 48, 270, "spearhead"),
     Symbol("Spearhead right", "spearhead_right", "free", 48, 90, "spearhead"),
     Symbol("Infantry", "infantry", "round", 34), Symbol("Armour", "armour", "round", 34),
@@ -88,6 +89,11 @@ def _free(symbol, art):
     lit = body & ~np.roll(body, (1, 1), (0, 1))
     art[_grow(lit) & ~body & (np.roll(body, (-1, -1), (0, 1)) | np.roll(body, -1, 0) | np.roll(body, -1, 1))] = (236, 236, 236)
     art[np.roll(body, (1, 1), (0, 1)) & ~body & ~np.roll(body, (-1, -1), (0, 1))] = (12, 12, 14)
+    inner = SIGNS.get(symbol.stem + "_inner")
+    if inner:  # a second tone, in a black line
+        core = _coverage(inner, symbol.size, 24, symbol.turn, 2) >= 0.5
+        art[_grow(core, False) & body] = (12, 12, 14)
+        art[core & body] = (250, 246, 232)
     return art
 
 
