@@ -56,6 +56,15 @@ ColourUse UseOf(const ImageClass& picture, uint32_t colour) {
   return use;
 }
 
+std::vector<std::string> DistinctFiles(const std::vector<CatalogueEntry>& entries) {
+  std::vector<std::string> files;
+  std::set<std::string> seen;
+  for (const CatalogueEntry& entry : entries) {
+    if (seen.insert(entry.fileName).second) files.push_back(entry.fileName);
+  }
+  return files;
+}
+
 }  // namespace
 
 // A picture of the Templates folder, empty after telling why it could not be loaded.
@@ -161,10 +170,8 @@ void PictureCheck::CheckOverlays() {
 }
 
 void PictureCheck::CheckSymbols(const std::vector<CatalogueEntry>& symbols) {
-  std::set<std::string> names;
-  for (const CatalogueEntry& entry : symbols) {
-    if (!names.insert(entry.fileName).second) continue;
-    const Picture symbol(*this, entry.fileName);
+  for (const std::string& name : DistinctFiles(symbols)) {
+    const Picture symbol(*this, name);
     if (!symbol.IsLoaded()) continue;
     if (symbol.IsLargerThan(kLargestSymbol)) {
       symbol.Error(symbol.SizeFault("at most ", kLargestSymbol) +
@@ -176,10 +183,8 @@ void PictureCheck::CheckSymbols(const std::vector<CatalogueEntry>& symbols) {
 }
 
 void PictureCheck::CheckCameos(const std::vector<CatalogueEntry>& cameos) {
-  std::set<std::string> names;
-  for (const CatalogueEntry& entry : cameos) {
-    if (!names.insert(entry.fileName).second) continue;
-    const Picture cameo(*this, entry.fileName);
+  for (const std::string& name : DistinctFiles(cameos)) {
+    const Picture cameo(*this, name);
     if (!cameo.IsLoaded()) continue;
     if (cameo.IsSmallerThan(kCameo) || cameo.IsLargerThan(kCameo)) {
       cameo.Error(cameo.SizeFault("", kCameo) + ": the editor refuses it");

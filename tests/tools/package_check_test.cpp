@@ -34,6 +34,11 @@ struct Picture {
 constexpr Picture kMissing = {0, 0, 0, 0}, kUnreadable = {1, 0, 0, 0};
 constexpr uint32_t kBlue = kKeyColour, kYellow = kSideMarker, kGrey = 0x808080;
 
+constexpr const char* kLongName =
+    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
+    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
+    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn";
+
 // In the order in which they are found.
 const struct {
   const char* file;
@@ -41,12 +46,12 @@ const struct {
   const char* findings;
 } kPictures[] = {
     {"com_largetargetbox.png",
-     {287, 289, kGrey, kGrey},
-     "warning: @is 287 x 289, but should be at least 288 x 283 to enclose the zoomed map\n"},
+     {455, 289, kGrey, kGrey},
+     "error: @is 455 x 289, but should be at most 454 x 468: the editor does not draw it\n"},
     {"com_smalltargetbox.png",
-     {287, 80, kBlue, 0x0000F0},
+     {455, 80, kBlue, 0x0000F0},
      "warning: @has 1 pixel of nearly pure blue (0, 0, 255), the first at 1, 0\n"
-     "error: @is 287 x 80, but should be at most 286 x 288, narrower and lower than the frame\n"},
+     "error: @is 455 x 80, but should be at most 454 x 288, narrower and lower than the frame\n"},
     {"com_worldmap2x.png",
      {281, 276, kGrey, kGrey},
      "error: @is 281 x 276, but should be at least 281 x 277\n"},
@@ -81,12 +86,14 @@ const struct {
     {"cam_sapper.png",
      {76, 59, kGrey, kGrey},
      "error: @is 76 x 59, but should be 76 x 60: the editor refuses it\n"},
+    {kLongName, kMissing, "error: @has a path of more than 259 bytes\n"},
     {"readme.txt", kMissing, "warning: @is missing or empty: the About box shows no text\n"},
 };
 
 void Damage(const std::string& path, const Picture& wanted) {
   if (wanted.width == 0) {
-    std::filesystem::remove(path);
+    std::error_code none;  // where the path is too long
+    std::filesystem::remove(path, none);
   } else if (wanted.height == 0) {
     WriteContent(path, ReadContent(path).substr(0, 1000));
   } else {
@@ -107,13 +114,21 @@ TEST(PackageCheckTest, EveryDamagedPictureIsNamedWithItsReason) {
     const std::string name = "Templates\\"s + row.file + ": ";
     for (const char* c = row.findings; *c; ++c) expected += *c == '@' ? name : std::string(1, *c);
   }
+  const std::string settings = ReadContent(folder.Path("Settings.ini"));
+  WriteContent(folder.Path("Settings.ini"),
+               settings + "\nagain=Again,cam_sapper.png\nlong=Long," + kLongName + "\n");
   EXPECT_EQ(expected, Found(folder.Path(), kFound));
   // Warnings alone leave nothing to mend.
   std::filesystem::remove_all(folder.Path("Templates"));
   std::filesystem::copy(CORVANTA_SOURCE "/templates/Templates", folder.Path("Templates"));
+  WriteContent(folder.Path("Settings.ini"), settings);
+  Damage(folder.Path("Templates/com_largetargetbox.png"), {287, 289, kGrey, kGrey});
   WriteContent(folder.Path("Templates/readme.txt"), "\xE9");
-  EXPECT_EQ("warning: Templates\\readme.txt: is not UTF-8: the About box shows other characters\n",
-            Found(folder.Path(), kDone));
+  EXPECT_EQ(
+      "warning: Templates\\com_largetargetbox.png: is 287 x 289, but should be at least 288 x "
+      "283 to enclose the zoomed map\n"
+      "warning: Templates\\readme.txt: is not UTF-8: the About box shows other characters\n",
+      Found(folder.Path(), kDone));
 }
 
 const std::string kBoth = "[SymbolsList]\nk=T,f.png\n[CameosList]\nk=T, f.png\n";
@@ -156,6 +171,7 @@ const struct {
      "error: has no section [SymbolsList]|"},
     {kMore + "a=\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80,a", ""},
     {kMore + "a=\xE4,a", "error: line 4 is not UTF-8|"},
+    {kMore + "a=\xE0\x80\x80,a", "error: line 4 is not UTF-8|"},
     {kMore + "a=\xED\xA0\x80,a", "error: line 4 is not UTF-8|"},
     {kMore + "a=\xF0\x9F\x98",
      "error: line 4 is not UTF-8|error: line 4 names no text and file "

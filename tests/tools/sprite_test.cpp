@@ -181,8 +181,10 @@ TEST_F(SpriteTest, MakeWritesTheExportsBytes) {
   EXPECT_EQ("", Run({"make", "small.bmp", "m.shp", "n.pal", "--any-size", "--palette", "ok.pal"}));
   EXPECT_EQ(kMade + "\1\2\3\3"s, ReadContent("m.shp"));
   EXPECT_EQ(kPalette, ReadContent("n.pal"));
-  EXPECT_EQ("", Run({"make", "screen.png", "m.shp", "n.pal", "--palette", "n.pal"}));
-  EXPECT_EQ(kPalette, ReadContent("n.pal"));
+  WriteContent("n.pal", kPalette + "more");
+  EXPECT_EQ("warning: n.pal: has 772 bytes, of which only the first 768 count\n",
+            Run({"make", "screen.png", "m.shp", "n.pal", "--palette", "n.pal"}));
+  EXPECT_EQ(kPalette + "more", ReadContent("n.pal"));
   EXPECT_EQ(416032u, ReadContent("m.shp").size());
 }
 
