@@ -6,7 +6,7 @@ import numpy as np
 from PIL import Image
 
 from . import pixelfont
-from .camera import Light, develop, photograph, rays
+from .camera import Light, beam, develop, photograph, rays
 from .canvas import ICON
 from .models import air, buildings, ground, infantry, naval
 from .solid import F, Solid, turn
@@ -32,14 +32,14 @@ class Cameo:
 
 
 CAMEOS = [
-    Cameo("Rifle squad", "RIFLE SQUAD", infantry.rifleman, "field", 2.5, (0.1, 0, 1.5), 24, 8),
-    Cameo("Sapper", "SAPPER", infantry.sapper, "field", 2.5, (0.1, 0, 1.5), 24, 8),
-    Cameo("Marksman", "MARKSMAN", infantry.marksman, "field", 2.5, (0.2, 0.1, 1.52), 30, 8),
-    Cameo("Lancer", "LANCER", infantry.lancer, "field", 2.6, (0.15, -0.1, 1.54), 30, 8),
-    Cameo("Field medic", "FIELD MEDIC", infantry.medic, "field", 2.5, (0.1, 0, 1.5), 24, 8),
+    Cameo("Rifle squad", "RIFLE SQUAD", infantry.rifleman, "dusk", 2.75, (0, 0.2, 1.47), 22, 8),
+    Cameo("Sapper", "SAPPER", infantry.sapper, "dusk", 2.6, (0.1, -0.04, 1.49), 24, 8),
+    Cameo("Marksman", "MARKSMAN", infantry.marksman, "dusk", 2.95, (0.2, -0.3, 1.46), 26, 8),
+    Cameo("Lancer", "LANCER", infantry.lancer, "dusk", 2.8, (0.15, -0.1, 1.5), 28, 8),
+    Cameo("Field medic", "FIELD MEDIC", infantry.medic, "dusk", 2.5, (0.1, 0, 1.5), 24, 8),
     Cameo("Fennec scout", "FENNEC SCOUT", ground.scout, "sand", 4.7, (0, 0, 1.15)),
-    Cameo("Basalt light tank", "BASALT TANK", ground.light_tank, "sand", 5.6, (0.3, 0, 0.95)),
-    Cameo("Rampart heavy tank", "RAMPART TANK", ground.heavy_tank, "sand", 7.0, (0.45, 0, 1.25)),
+    Cameo("Basalt light tank", "BASALT TANK", ground.light_tank, "sand", 5.9, (0.5, 0, 0.85), 46, 22),
+    Cameo("Rampart heavy tank", "RAMPART TANK", ground.heavy_tank, "sand", 6.9, (0.5, 0, 1.2), 34, 15),
     Cameo("Hailstorm rocket carrier", "HAILSTORM", ground.rocket_carrier, "sand", 6.2, (0.1, 0, 1.3)),
     Cameo("Flak carrier", "FLAK CARRIER", ground.flak, "sand", 6.2, (0.1, 0, 1.6)),
     Cameo("Listener mobile radar", "LISTENER", ground.listener, "sand", 6.3, (0, 0, 1.7)),
@@ -61,12 +61,13 @@ CAMEOS = [
     Cameo("Fuel depot", "FUEL DEPOT", buildings.fuel_depot, "base", 6.9, (0, 0, 1.1), 36, 26),
     Cameo("Radar dome", "RADAR DOME", buildings.radar_dome, "base", 6.5, (0, 0, 1.3), 36, 26),
     Cameo("Gun tower", "GUN TOWER", buildings.gun_tower, "base", 5.8, (0.3, 0, 1.75), 38, 22),
-    Cameo("Searchlight tower", "SEARCHLIGHT", buildings.searchlight, "base", 6.6, (0.1, 0, 2.15), 38, 20),
+    Cameo("Searchlight tower", "SEARCHLIGHT", buildings.searchlight, "night", 6.4, (0.3, 0.3, 2.2), -6, 16),
 ]
 
 # Ground colour, its roughness, and the backdrop from top to bottom.
 SCENES = {
-    "field": ((0.10, 0.10, 0.06), 0.4, ("5a6a50", "2c3626", "11160f")),
+    "dusk": (None, 0, ("7a3418", "e08a34", "5a2a16")),
+    "night": ((0.05, 0.06, 0.075), 0.45, ("101a30", "24344c", "141c26")),
     "sand": ((0.27, 0.195, 0.115), 0.5, ("b08a58", "7c5c38", "4c3820")),
     "base": ((0.125, 0.14, 0.12), 0.45, ("5c6c74", "3c4a50", "242e32")),
     "sea": ((0.025, 0.085, 0.11), 0.3, ("2c6a80", "164454", "0a2630")),
@@ -85,7 +86,9 @@ def _floor(scene):
     colour, rough, _ = SCENES[scene]
     if scene in ("sea", "dock"):
         def height(p):
-            return p[..., 2] - F(0.035) * np.sin(p[..., 0] * F(3.1) + np.sin(p[..., 1] * F(2.3))) - F(0.03) * np.sin(p[..., 1] * F(4.1) + p[..., 0] * F(1.7))
+            x, y, z = p[..., 0], p[..., 1], p[..., 2]
+            long_waves = F(0.035) * np.sin(x * F(3.1) + np.sin(y * F(2.3)))
+            return z - long_waves - F(0.03) * np.sin(y * F(4.1) + x * F(1.7))
         return Solid(height, colour, 0.9)
     return Solid(lambda p: p[..., 2], colour, 0.0, pattern=lambda p: 1 + rough * 0.5 * _grain(p[..., 0], p[..., 1]))
 
@@ -95,35 +98,65 @@ def _backdrop(scene, size):
     t = np.linspace(0, 2, size[1])
     shades = np.stack([np.interp(t, (0, 1, 2), stops[:, c]) for c in range(3)], axis=1)
     picture = np.repeat(shades[:, None], size[0], axis=1)
+    y, x = np.mgrid[0 : size[1], 0 : size[0]] / size[0]
     if scene == "sky":
-        y, x = np.mgrid[0 : size[1], 0 : size[0]] / size[0]
-        cloud = np.clip(_grain(x * 2.2 + 0.7, y * 5) * 0.7 + _grain(x * 5 + 3, y * 11) * 0.35 + (y - 0.32) * 0.8, 0, 1)
-        picture += (np.array([232, 236, 236]) - picture) * cloud[..., None] * 0.85
+        cloud = _grain(x * 2.2 + 0.7, y * 5) * 0.7 + _grain(x * 5 + 3, y * 11) * 0.35 + (y - 0.32) * 0.8
+        picture += (np.array([232, 236, 236]) - picture) * np.clip(cloud, 0, 1)[..., None] * 0.85
+    if scene == "dusk":
+        _burning_horizon(picture, x, y)
     return picture
+
+
+def _burning_horizon(picture, x, y):
+    """A low sun behind drifting smoke, and the ruins it shines past."""
+    sun = np.exp(-(((x - 0.80) / 0.34) ** 2) - ((y - 0.36) / 0.26) ** 2)
+    picture += sun[..., None] * np.array([70, 62, 34])
+    smoke = _grain(x * 2.6 + y * 2.0 + 1.1, y * 7 - x) * 0.6 + _grain(x * 7 + 2, y * 13) * 0.3 + 0.25 - y
+    picture += (np.array([74, 34, 22]) - picture) * np.clip(smoke, 0, 0.75)[..., None]
+    roofs = 0.50 - 0.05 * np.round(2 * _grain(np.floor(x * 17) * 0.71, np.floor(x * 17) * 0.37))
+    ruins = np.clip((y - roofs) * 60, 0, 1)
+    picture += (np.array([66, 32, 20]) - picture) * ruins[..., None] * 0.75
+
+
+def _lights(cameo):
+    """The main lamp stands to the viewer's upper left; for soldiers lower, to get under their
+    helmets, and with the evening sun behind them. At night there is only the moon."""
+    spin = turn("z", cameo.azimuth - 38)
+    if cameo.scene == "dusk":
+        behind = turn("z", cameo.azimuth) @ np.array((-0.75, 0.85, 0.55), F)
+        towards = tuple(spin @ np.array((0.55, -0.55, 0.42), F))
+        return Light(towards, warm=(1.5, 1.32, 1.05), behind=tuple(behind), contour=(2.6, 1.45, 0.55))
+    towards = tuple(spin @ np.array((0.25, -0.75, 0.8), F))
+    if cameo.scene == "night":
+        return Light(towards, warm=(0.62, 0.76, 1.05), sky=(0.24, 0.31, 0.45), bounce=(0.05, 0.06, 0.09))
+    return Light(towards)
 
 
 def portrait(cameo):
     size = (ICON[0] * FINER, ICON[1] * FINER)
     solids = cameo.model()
-    if SCENES[cameo.scene][0] is not None and cameo.scene != "field":
+    grounded = SCENES[cameo.scene][0] is not None
+    if grounded:
         solids = [_floor(cameo.scene), *solids]
     # The name strip covers the lowest rows, so the subject moves up by half of them.
     lift = STRIP / 2 / ICON[0] * cameo.width
     aim = (cameo.aim[0], cameo.aim[1], cameo.aim[2] - lift)
     start, way = rays(size, cameo.azimuth, cameo.elevation, aim, cameo.width, 0.42)
-    # The lamp stands to the viewer's upper left; for soldiers lower, to get under their helmets.
-    lamp = (0.55, -0.55, 0.42) if cameo.scene == "field" else (0.25, -0.75, 0.8)
-    towards = turn("z", cameo.azimuth - 38) @ np.array(lamp, F)
-    shot = photograph(solids, size, start, way, Light(towards=tuple(towards)), reach=40)
+    shot = photograph(solids, size, start, way, _lights(cameo), reach=40)
     picture = develop(shot.colour, 0.82)
     back = _backdrop(cameo.scene, size)
     gone = np.isinf(shot.depth)
     picture[gone] = back[gone]
-    if SCENES[cameo.scene][0] is not None and cameo.scene != "field":
+    if grounded:
         # Haze lets the floor fade into the backdrop behind the subject.
-        haze = np.clip((shot.depth - cameo.width / 0.42 - cameo.width * 0.42) / (cameo.width * 1.6), 0, 0.85)
+        far = cameo.width / 0.42 + cameo.width * 0.42
+        haze = np.clip((shot.depth - far) / (cameo.width * 1.6), 0, 0.85)
         haze[gone] = 0
         picture += (back - picture) * np.where(shot.which == 0, haze, haze * 0.1)[..., None]
+    if cameo.model is buildings.searchlight:
+        foot, tip = np.array(buildings.LAMP_AT) + 0.5 * buildings.LAMP_WAY, buildings.LAMP_WAY * 8
+        light = beam(shot, start, way, foot, foot + tip, 0.5, 1.7)
+        picture += light[..., None] * np.array([255, 240, 185]) * 1.15
     return _finish(picture, cameo.strip)
 
 
@@ -133,7 +166,9 @@ def _finish(picture, text):
     picture = np.clip(grey + (picture - grey) * 1.18, 0, 255)
     h, w = ICON[1], ICON[0]
     small = picture.reshape(h, FINER, w, FINER, 3).mean(axis=(1, 3))
-    soft = np.array(Image.fromarray(small.astype(np.uint8)).resize((w // 2, h // 2), Image.BOX).resize((w, h), Image.BICUBIC), float)
+    # Rounded, not cut: a tone that should be whole may come out a hair below it on another machine.
+    soft = Image.fromarray(np.rint(small).astype(np.uint8)).resize((w // 2, h // 2), Image.BOX)
+    soft = np.array(soft.resize((w, h), Image.BICUBIC), float)
     small = np.clip(small + (small - soft) * 0.35, 0, 255)
     y, x = np.mgrid[0:h, 0:w]
     corner = np.hypot((x - w / 2) / w, (y - h / 2 + 4) / h)

@@ -27,6 +27,8 @@ class Light:
     sky: tuple = (0.40, 0.46, 0.56)
     bounce: tuple = (0.20, 0.17, 0.14)
     rim: tuple = (0.30, 0.36, 0.46)
+    behind: tuple = (-1.0, 0.0, 0.5)  # direction to a second lamp, which only draws bright contours
+    contour: tuple = (0.0, 0.0, 0.0)  # its colour
 
 
 def unit(v):
@@ -126,6 +128,8 @@ def _lit(solids, p, way, light, fade):
     ambient = (np.array(light.bounce, F) * (1 - up) + np.array(light.sky, F) * up) * open_sky[:, None]
     total = base * (ambient + np.array(light.warm, F) * facing[:, None])
     total += gleam[:, None] + np.array(light.rim, F) * (edge * shine * open_sky)[:, None]
+    outline = np.clip(normal @ unit(light.behind), 0, 1) * np.sqrt(edge) * open_sky
+    total += np.array(light.contour, F) * outline[:, None]
     return total + base * glow[:, None], which
 
 
@@ -158,6 +162,26 @@ def _openness(solids, p, normal):
         gap = nearest(solids, p + normal * F(step))
         closed += np.clip(step - gap, 0, None) / F(step) * F(weight * 0.42)
     return np.clip(1 - closed, 0.12, 1)
+
+
+def beam(shot, start, way, first, last, radius, end):
+    """How brightly a cone of light from first to last, radius to end metres thick, stands in the air
+    between camera and scene; 0 to 1 for each pixel of the shot."""
+    first, last = np.array(first, F), np.array(last, F)
+    axis = last - first
+    span = np.sqrt(axis @ axis)
+    axis = axis / span
+    between = first - start
+    along = way @ axis
+    lean = np.maximum(1 - along * along, F(1e-4))
+    ahead = np.einsum("ij,ij->i", between, way)
+    share = np.clip((along * ahead - between @ axis) / lean / span, 0, 1)
+    near = first + axis * (share * span)[:, None]
+    travelled = np.einsum("ij,ij->i", near - start, way)
+    off = length(start + way * travelled[:, None] - near)
+    thick = F(radius) + F(end - radius) * share
+    light = np.clip(1 - (off / thick) ** 2, 0, 1) * (1 - share) ** F(0.7) * np.sqrt(F(radius) / thick)
+    return (light * (travelled < shot.depth.ravel())).reshape(shot.depth.shape)
 
 
 def develop(colour, exposure=1.0):

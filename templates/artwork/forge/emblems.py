@@ -30,13 +30,18 @@ def beacon(bench, cx, cy, r, metal, enamel, glow):
             bench.shadow(polygon(points), 4, 0.5)
             bench.plate(polygon(points), metal, 2.5)
     shield = [(0, -0.84), (0.30, -0.66), (0.56, -0.62), (0.52, 0.16), (0.30, 0.56), (0, 0.86)]
-    whole = lambda k: [(cx + x * r * k, cy + y * r * k) for x, y in shield + [(-x, y) for x, y in shield[-2:0:-1]]]
+    whole = lambda k: [
+        (cx + x * r * k, cy + y * r * k) for x, y in shield + [(-x, y) for x, y in shield[-2:0:-1]]
+    ]
     bench.shadow(polygon(whole(1)), 8, 0.7)
     bench.plate(polygon(whole(1.0)), metal, 4)
     bench.plate(polygon(whole(0.82)), enamel, 2, sunken=True)
     for k in range(3):
         y, w = cy + r * (-0.28 + 0.27 * k), r * (0.36 - 0.03 * k)
-        chevron = [(cx, y - r * 0.16), (cx + w, y + r * 0.12), (cx + w, y + r * 0.27), (cx, y), (cx - w, y + r * 0.27), (cx - w, y + r * 0.12)]
+        chevron = [
+            (cx, y - r * 0.16), (cx + w, y + r * 0.12), (cx + w, y + r * 0.27), (cx, y),
+            (cx - w, y + r * 0.27), (cx - w, y + r * 0.12),
+        ]
         bench.plate(polygon(chevron), metal, 2.2)
     bench.glow(circle(cx, cy - r * 0.58, 2.6), glow, 4, 1.0)
 
@@ -52,12 +57,22 @@ def foundry(bench, cx, cy, r, metal, enamel, glow):
     bench.plate(circle(cx, cy, r * 0.66), enamel, 3, sunken=True)
     for i in range(9):
         angle = -80 + 20 * i
-        a, b = _around(cx, cy + r * 0.12, r * 0.66, angle - 4), _around(cx, cy + r * 0.12, r * 0.66, angle + 4)
+        a, b = _around(cx, cy + r * 0.12, r * 0.66, angle - 4), _around(
+            cx, cy + r * 0.12, r * 0.66, angle + 4
+        )
         root = _around(cx, cy + r * 0.12, r * 0.22, angle)
-        ray = [p if math.hypot(p[0] - cx, p[1] - cy) < r * 0.6 else (cx + (p[0] - cx) * 0.88, cy + (p[1] - cy) * 0.88) for p in (root, a, b)]
+        ray = [
+            p if math.hypot(p[0] - cx, p[1] - cy) < r * 0.6 else (
+                cx + (p[0] - cx) * 0.88, cy + (p[1] - cy) * 0.88
+            )
+            for p in (root, a, b)
+        ]
         bench.plate(polygon(ray), Paint("c08a30", 0.03, 0.5), 1.5, outline=False)
-    anvil = [(-0.54, -0.10), (0.34, -0.10), (0.34, -0.02), (0.52, -0.06), (0.36, 0.13), (0.16, 0.17), (0.13, 0.34), (0.32, 0.40), (0.32, 0.52),
-             (-0.32, 0.52), (-0.32, 0.40), (-0.13, 0.34), (-0.16, 0.17), (-0.38, 0.12), (-0.50, 0.02)]
+    anvil = [
+        (-0.54, -0.10), (0.34, -0.10), (0.34, -0.02), (0.52, -0.06), (0.36, 0.13), (0.16, 0.17), (0.13, 0.34),
+        (0.32, 0.40), (0.32, 0.52), (-0.32, 0.52), (-0.32, 0.40), (-0.13, 0.34), (-0.16, 0.17), (-0.38, 0.12),
+        (-0.50, 0.02),
+    ]
     body = [(cx + x * r, cy + y * r) for x, y in anvil]
     bench.shadow(polygon(body), 6, 0.8)
     bench.plate(polygon(body), Paint("8c8078", 0.05, 0.6), 3)

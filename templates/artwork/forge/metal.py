@@ -64,7 +64,8 @@ class Bench:
             lit *= np.where(depth < 1, 0.28, 1)[..., None]
         blocks = (bottom - top, FINER, right - left, FINER)
         weight = cut.reshape(blocks).mean(axis=(1, 3))
-        colour = (lit * cut[..., None]).reshape(*blocks, 3).mean(axis=(1, 3)) / np.maximum(weight, 1e-6)[..., None]
+        colour = (lit * cut[..., None]).reshape(*blocks, 3).mean(axis=(1, 3))
+        colour /= np.maximum(weight, 1e-6)[..., None]
         on = weight >= 0.5
         if not cover:
             on &= self.covered[top:bottom, left:right]
@@ -147,11 +148,19 @@ def outline(x, y, w, h, corner=8, kind="cut"):
         k = corner
         if kind == "round":
             c.new_sub_path()
-            for cx, cy, a in ((x + w - k, y + k, -1), (x + w - k, y + h - k, 0), (x + k, y + h - k, 1), (x + k, y + k, 2)):
+            for cx, cy, a in (
+                (x + w - k, y + k, -1), (x + w - k, y + h - k, 0), (x + k, y + h - k, 1), (x + k, y + k, 2)
+            ):
                 c.arc(cx, cy, k, a * np.pi / 2, (a + 1) * np.pi / 2)
         else:
-            steps = {"cut": [(0, k), (k, 0)], "step": [(0, k), (k * 0.5, k), (k * 0.5, k * 0.5), (k, k * 0.5), (k, 0)]}[kind]
-            turns = [(x, y, 1, 1, False), (x + w, y, -1, 1, True), (x + w, y + h, -1, -1, False), (x, y + h, 1, -1, True)]
+            steps = {
+                "cut": [(0, k), (k, 0)],
+                "step": [(0, k), (k * 0.5, k), (k * 0.5, k * 0.5), (k, k * 0.5), (k, 0)],
+            }[kind]
+            turns = [
+                (x, y, 1, 1, False), (x + w, y, -1, 1, True), (x + w, y + h, -1, -1, False),
+                (x, y + h, 1, -1, True),
+            ]
             c.new_sub_path()
             for px, py, sx, sy, back in turns:
                 for dx, dy in reversed(steps) if back else steps:

@@ -23,6 +23,7 @@ class Solid:
     glow: float = 0.0
     pattern: callable = None
     fence: tuple = None  # centre and radius of a ball around it, see fenced()
+    muzzle: tuple = None  # of a gun: the point where its shot leaves, and the direction it takes
 
 
 def length(v):
@@ -78,7 +79,7 @@ def rod(a, b, radius, end=None, edge=0.02):
         share = np.clip(along / span, 0, 1)
         side = (out - (first + (last - first) * share)) * slope
         cap = np.abs(along - span / 2) - span / 2
-        return np.hypot(np.maximum(side, 0), np.maximum(cap, 0)) + np.minimum(np.maximum(side, cap), 0) - F(edge)
+        return _rim(side, cap) - F(edge)
 
     return distance
 
@@ -105,9 +106,14 @@ def slab(outline, low, high, axis="y", edge=0.03):
     def distance(p):
         flat = _outline_distance(p[..., others], points) + F(edge)
         cap = np.abs(p[..., index] - middle) - half
-        return np.hypot(np.maximum(flat, 0), np.maximum(cap, 0)) + np.minimum(np.maximum(flat, cap), 0) - F(edge)
+        return _rim(flat, cap) - F(edge)
 
     return distance
+
+
+def _rim(side, cap):
+    """Distance to where two surfaces that stand upright on each other meet."""
+    return np.hypot(np.maximum(side, 0), np.maximum(cap, 0)) + np.minimum(np.maximum(side, cap), 0)
 
 
 def _outline_distance(p, points):
@@ -162,15 +168,20 @@ def moved(distance, offset=(0, 0, 0), matrix=None, scale=1.0):
 
 
 def place(solids, offset=(0, 0, 0), matrix=None, scale=1.0):
-    """A group of solids moved, turned and scaled as one; patterns move along."""
+    """A group of solids moved, turned and scaled as one; patterns and muzzles move along."""
     at = np.array(offset, F)
+    spin = np.eye(3, dtype=F) if matrix is None else matrix
 
     def carry(pattern):
         if pattern is None:
             return None
         return lambda p: pattern(((p - at) / F(scale)) @ matrix if matrix is not None else (p - at) / F(scale))
 
-    return [replace(s, distance=moved(s.distance, offset, matrix, scale), pattern=carry(s.pattern)) for s in solids]
+    def train(muzzle):
+        return muzzle and (spin @ muzzle[0] * F(scale) + at, spin @ muzzle[1])
+
+    return [replace(s, distance=moved(s.distance, offset, matrix, scale), pattern=carry(s.pattern),
+                    muzzle=train(s.muzzle)) for s in solids]
 
 
 def fenced(solids, reach=8.0, pitch=0.5):

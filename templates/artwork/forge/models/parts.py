@@ -45,7 +45,8 @@ def blotches(scale=1.3, dark=0.66):
     """Two-tone camouflage."""
     def pattern(p):
         q = p * F(scale)
-        wave = np.sin(q[..., 0] * 2.1 + np.sin(q[..., 1] * 2.7) * 1.3) + np.sin(q[..., 1] * 1.7 + q[..., 2] * 2.3 + 1.0)
+        wave = np.sin(q[..., 0] * 2.1 + np.sin(q[..., 1] * 2.7) * 1.3)
+        wave = wave + np.sin(q[..., 1] * 1.7 + q[..., 2] * 2.3 + 1.0)
         return np.where(wave > 0.35, F(dark), F(1)) * seams(0.9, 0.8, 0.04)(p)
     return pattern
 
@@ -56,17 +57,31 @@ def hazard(axis="x", other="z", pitch=0.5):
     return lambda p: np.where(((p[..., i] + p[..., k]) / F(pitch)) % 1 < 0.5, F(1), F(0.06))
 
 
-def tracks(front=2.1, rear=-2.1, inner=0.72, outer=1.25, height=0.82):
+def tracks(front=2.1, rear=-2.1, inner=0.72, outer=1.25, height=0.82, paint=ARMOUR):
     """A pair of tracks with guards."""
-    outline = [(rear - 0.1, height * 0.5), (rear + 0.35, 0.03), (front - 0.5, 0.03), (front + 0.1, height * 0.55),
-               (front - 0.05, height * 0.85), (rear + 0.05, height * 0.85)]
-    wheels = [Solid(both(rod((x, outer - 0.1, height * 0.36), (x, outer + 0.03, height * 0.36), height * 0.27)), STEEL_DARK, 0.4)
-              for x in np.linspace(rear + 0.4, front - 0.55, 5)]
+    outline = [
+        (rear - 0.1, height * 0.5),
+        (rear + 0.35, 0.03),
+        (front - 0.5, 0.03),
+        (front + 0.1, height * 0.55),
+        (front - 0.05, height * 0.85),
+        (rear + 0.05, height * 0.85),
+    ]
+    axle = height * 0.36
+    wheels = [
+        Solid(both(rod((x, outer - 0.1, axle), (x, outer + 0.03, axle), height * 0.27)), STEEL_DARK, 0.4)
+        for x in np.linspace(rear + 0.4, front - 0.55, 5)
+    ]
     guard = box(((front + rear) / 2, (inner + outer) / 2, height * 0.92),
                 (front - rear + 0.25, outer - inner + 0.1, 0.1), 0.03)
-    skirt = box(((front + rear) / 2 - 0.1, outer + 0.02, height * 0.8), (front - rear - 0.5, 0.06, height * 0.26), 0.02)
-    return [Solid(both(slab(outline, inner, outer, edge=0.06)), RUBBER, 0.3, pattern=stripes("x", 0.16, 2.4)),
-            Solid(both(guard), ARMOUR, 0.3, pattern=seams(0.85)),
+    skirt = box(
+        ((front + rear) / 2 - 0.1, outer + 0.02, height * 0.8),
+        (front - rear - 0.5, 0.06, height * 0.26),
+        0.02,
+    )
+    belt = slab(outline, inner, outer, edge=0.06)
+    return [Solid(both(belt), RUBBER, 0.3, pattern=stripes("x", 0.16, 2.4)),
+            Solid(both(guard), paint, 0.3, pattern=seams(0.85)),
             Solid(both(skirt), ARMOUR_DARK, 0.3, pattern=seams(0.7)), *wheels]
 
 
@@ -74,7 +89,9 @@ def wheels(places, radius=0.42, inner=0.55, outer=0.9):
     found = []
     for x in places:
         found.append(Solid(both(rod((x, inner, radius), (x, outer, radius), radius, edge=0.08)), RUBBER, 0.2))
-        found.append(Solid(both(rod((x, outer - 0.05, radius), (x, outer + 0.02, radius), radius * 0.5)), STEEL, 0.5))
+        found.append(
+            Solid(both(rod((x, outer - 0.05, radius), (x, outer + 0.02, radius), radius * 0.5)), STEEL, 0.5)
+        )
     return found
 
 
@@ -82,10 +99,13 @@ def barrel(start, end, radius, brake=True):
     """A gun with a sleeve and, at its mouth, a brake."""
     start, end = np.array(start, F), np.array(end, F)
     way = end - start
-    found = [Solid(rod(start, end, radius), STEEL_DARK, 0.6),
+    mouth = end + way * F(0.02), way / F(np.sqrt(way @ way))
+    found = [Solid(rod(start, end, radius), STEEL_DARK, 0.6, muzzle=mouth),
              Solid(rod(start, start + way * F(0.35), radius * 1.45), ARMOUR_DARK, 0.4)]
     if brake:
-        found.append(Solid(less(rod(end - way * F(0.09), end + way * F(0.02), radius * 1.6), rod(end - way * F(0.02), end + way * F(0.1), radius * 0.75)), STEEL_DARK, 0.6))
+        sleeve = rod(end - way * F(0.09), end + way * F(0.02), radius * 1.6)
+        bore = rod(end - way * F(0.02), end + way * F(0.1), radius * 0.75)
+        found.append(Solid(less(sleeve, bore), STEEL_DARK, 0.6))
     return found
 
 
