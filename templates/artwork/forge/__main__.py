@@ -43,7 +43,7 @@ def one_cameo(number, out):
 
 
 def one_sample(name, out):
-    canvas.save(battlefield.paint(scenes.SAMPLES[name]), out / "samples" / name)
+    canvas.save(battlefield.paint(scenes.SAMPLES[name]()), out / "samples" / name)
 
 
 def texts(out):

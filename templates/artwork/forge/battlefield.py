@@ -6,6 +6,8 @@ import numpy as np
 from scipy import ndimage
 
 from .camera import Light, develop, photograph, rays, view
+from .effects import Effects
+from .gunnery import Body, face_targets, flights
 from .models.parts import ACCENT
 from .noise import Field
 from .solid import F, Solid, fenced, turn
@@ -20,15 +22,29 @@ TEAMS = {"none": ACCENT, "red": (0.55, 0.045, 0.03), "green": (0.08, 0.42, 0.30)
 
 @dataclass(frozen=True)
 class Piece:
-    """A model at a picture position; heading in degrees, 0 looks down to the left."""
+    """A model at a picture position; heading in degrees, 0 looks down to the left and 90 down to the
+    right. Without a heading it faces the first target it shoots at. Pieces that shoot, are shot at,
+    burn or explode have a name."""
 
     model: callable
     x: float
     y: float
-    heading: float = 0
+    heading: float | None = 0
     scale: float = 1.0
     team: str = "none"
-    lift: float = 0.0
+    lift: float = 0.0  # pixels above the ground, for what flies
+    name: str = ""
+    level: float | None = None  # height in metres of what it stands on, where that is not the ground
+
+
+@dataclass(frozen=True)
+class Apron:
+    """A paved yard around a picture position, deep metres down to the left, wide ones to the right."""
+
+    x: float
+    y: float
+    deep: float
+    wide: float
 
 
 @dataclass(frozen=True)
@@ -39,9 +55,10 @@ class Scene:
     water: callable  # metres into the water at world x, y; negative on land
     roads: list  # picture positions along each road
     pieces: list
-    bursts: list = field(default_factory=list)  # explosions: x, y, size in pixels
-    smoke: list = field(default_factory=list)  # x, y, height in pixels
-    shots: list = field(default_factory=list)  # tracers: from x, y to x, y
+    aprons: list = field(default_factory=list)
+    bursts: list = field(default_factory=list)  # explosions: name of a piece, size in pixels
+    smoke: list = field(default_factory=list)  # name of the piece that burns, height in pixels
+    shots: list = field(default_factory=list)
     hills: float = 1.0
 
 
@@ -67,6 +84,7 @@ class Land:
         self.swell = Field(scene.seed + 3, 60, 6, 2.4)
         self.patches = Field(scene.seed + 2, 70, 3, 1.9)
         self.spots = [(*to_ground(p.x, p.y), 4.2 * p.scale) for p in scene.pieces if p.scale > 1.2 and not p.lift]
+        self.yards = [(*to_ground(a.x, a.y), a.deep / 2, a.wide / 2) for a in scene.aprons]
         self.ways = [[to_ground(*at) for at in road] for road in scene.roads]
         # The relief is worked out once on a grid: rays ask for it some hundred times a pixel.
         corners = np.array([to_ground(x, y) for x in (0, SIZE[0]) for y in (-120, SIZE[1] + 60)])
@@ -84,7 +102,7 @@ class Land:
         level = np.clip(self.rolling(x, y) * 1.5 - 0.5, 0, 3.4) * F(self.scene.hills)
         for sx, sy, reach in self.spots:
             level *= np.clip((np.hypot(x - F(sx), y - F(sy)) - F(reach * 0.85)) / F(reach * 0.6), 0, 1)
-        level *= np.clip((self.road(x, y) - F(2.4)) / 4, 0.0, 1)
+        level *= np.clip((np.minimum(self.road(x, y), self.yard(x, y) + F(1.5)) - F(2.4)) / 4, 0.0, 1)
         into = self.scene.water(x, y)
         level = level * np.clip((-into - F(1.2)) / 5, 0, 1) + self.fine(x, y) * F(0.055)
         return np.where(into > -1.2, np.minimum(level, -(into + F(1.2)) * F(0.75)), level)
@@ -97,6 +115,15 @@ class Land:
                 ex, ey = bx - ax, by - ay
                 t = np.clip(((x - ax) * ex + (y - ay) * ey) / (ex * ex + ey * ey), 0, 1)
                 nearest = np.minimum(nearest, np.hypot(x - ax - t * ex, y - ay - t * ey).astype(F))
+        return nearest
+
+    def yard(self, x, y):
+        """Distance to the nearest paved yard, negative on it."""
+        nearest = np.full(np.shape(x), 99, F)
+        for cx, cy, deep, wide in self.yards:
+            across, along = np.abs(x - F(cx)) - F(deep), np.abs(y - F(cy)) - F(wide)
+            outside = np.hypot(np.maximum(across, 0), np.maximum(along, 0))
+            nearest = np.minimum(nearest, outside + np.minimum(np.maximum(across, along), 0))
         return nearest
 
     def solids(self):
@@ -114,27 +141,54 @@ class Land:
         fine, patch = self.fine(x * F(1.7), y * F(1.7)), self.patches(x, y)
         share = np.clip(0.58 + 0.75 * patch + 0.16 * fine - 0.10 * z, 0, 1)[:, None]
         colour = (soil * (1 - share) + grass * share) * (1 + 0.10 * fine[:, None])
-        colour = np.where((z + F(0.08) * fine < -0.16)[:, None], np.array((0.25, 0.21, 0.14), F) * (1 + 0.1 * fine[:, None]), colour)
+        wet = np.array((0.25, 0.21, 0.14), F) * (1 + 0.1 * fine[:, None])
+        colour = np.where((z + F(0.08) * fine < -0.16)[:, None], wet, colour)
         d = self.road(x, y) + F(0.12) * fine
         on = np.clip((1.75 - d) * 4, 0, 1)[:, None]
         ruts = (0.8 + 0.2 * np.cos(np.clip(d, 0, 1.5) * 5.5))[:, None]
         colour = colour * (1 - on) + np.array((0.235, 0.195, 0.14), F) * ruts * (1 + 0.06 * fine[:, None]) * on
+        colour = self._paved(colour, x, y, fine)
         depth = np.clip((-self.height(x, y) - 0.55) / 1.6, 0, 1)[:, None]
         water = np.array((0.10, 0.17, 0.14), F) * (1 - depth) + np.array((0.015, 0.055, 0.075), F) * depth
         return np.where((which == 1)[:, None], water, colour)
 
 
+    def _paved(self, colour, x, y, fine):
+        """Slabs of concrete with joints, worn edges and oil stains where there is a yard."""
+        d = self.yard(x, y)
+        on = np.clip((F(0.15) - d + F(0.1) * fine) * 5, 0, 1)[:, None]
+        joint = np.minimum(np.abs(x % F(2.4) - F(1.2)), np.abs(y % F(2.4) - F(1.2))) < 0.06
+        slab = np.sin(np.floor(x / F(2.4) + F(0.5)) * 12.9 + np.floor(y / F(2.4) + F(0.5)) * 78.2)
+        tone = (1 + 0.06 * slab + 0.04 * fine) * np.where(joint, 0.74, 1) * np.where(np.abs(d + 0.7) < 0.14, 1.35, 1)
+        tone *= 1 - 0.22 * np.clip(self.patches(x * 3 + 17, y * 3) - 0.9, 0, 1)
+        return colour * (1 - on) + np.array((0.27, 0.26, 0.235), F) * tone[:, None] * on
+
+
+def _foot(land, piece):
+    """Where a piece stands in the world."""
+    gx, gy = to_ground(piece.x, piece.y)
+    level = piece.level
+    if level is None:
+        afloat = land.scene.water(np.array([gx], F), np.array([gy], F))[0] > 0
+        level = -0.5 if afloat else max(float(land.height(np.array([gx], F), np.array([gy], F))[0]), -0.5)
+    return np.array((gx, gy, level + piece.lift / SCALE / _UP[2]))
+
+
 def paint(scene):
     land = Land(scene)
+    bodies = {p.name or f"piece {i}": Body(p, _foot(land, p)) for i, p in enumerate(scene.pieces)}
+    face_targets(bodies, scene.shots)
+    shots = flights(bodies, scene.shots, land.height)
     start, way = rays(SIZE, AZIMUTH, ELEVATION, (0, 0, 0), SIZE[0] / SCALE)
     # Rays begin just above the hills: the way through the air costs steps.
     start = start + way * ((start[:, 2:3] - F(6)) / -way[:, 2:3])
     shot = photograph(land.solids(), SIZE, start, way, SUN, fade=land.texture)
     light = shot.colour
-    for piece in sorted(scene.pieces, key=lambda p: (p.lift > 0, p.y)):
+    order = sorted((body.piece for body in bodies.values()), key=lambda p: (p.lift > 0, p.level is not None, p.y))
+    for piece in order:
         _set_down(light, land, piece)
     picture = develop(light, 0.85)
-    _effects(picture, scene)
+    _fight(picture, scene, bodies, shots)
     grey = picture.mean(axis=2, keepdims=True)
     picture = np.clip(grey + (picture - grey) * 1.15, 0, 255)
     return np.round(picture / 5) * 5  # sheer grain would only fatten the file
@@ -166,10 +220,13 @@ def _print(piece):
         shape = (half * 2, 2, half * 2, 2)
         mine = (shot.which >= (0 if piece.lift else 1)).astype(F)
         light = (shot.colour * mine[..., None]).reshape(*shape, 3).mean(axis=(1, 3))
-        open_ground = np.median(shot.colour[shot.which == 0], axis=0) if not piece.lift else 1
-        shade = np.where((mine > 0)[..., None], 1, shot.colour / open_ground) if not piece.lift else np.ones_like(shot.colour)
+        shade = np.ones_like(shot.colour)
+        if not piece.lift:
+            ground = shot.which == 0
+            shade[ground] = (shot.colour / np.median(shot.colour[ground], axis=0))[ground]
         share = (1 - mine).reshape(shape).mean(axis=(1, 3))
-        shade = (shade * (1 - mine)[..., None]).reshape(*shape, 3).mean(axis=(1, 3)) / np.maximum(share, 1e-3)[..., None]
+        shade = (shade * (1 - mine)[..., None]).reshape(*shape, 3).mean(axis=(1, 3))
+        shade /= np.maximum(share, 1e-3)[..., None]
         shade[share < 1e-3] = 1
         _prints[key] = half, light, 1 - share, np.clip(shade, 0.2, 1.0)
     return _prints[key]
@@ -177,11 +234,9 @@ def _print(piece):
 
 def _set_down(light, land, piece):
     half, body, cover, shade = _print(piece)
-    gx, gy = to_ground(piece.x, piece.y)
-    level = float(land.height(np.array([gx], F), np.array([gy], F))[0])
-    if land.scene.water(np.array([gx], F), np.array([gy], F))[0] > 0:
-        level = -0.5
-    x, y = to_picture((gx, gy, max(level, -0.5)))
+    foot = _foot(land, piece)
+    foot[2] -= piece.lift / SCALE / _UP[2]
+    x, y = to_picture(foot)
     x, y = int(round(x)), int(round(y - piece.lift))
     if piece.lift:  # aircraft cast their shadow far below
         below = 1 - 0.45 * ndimage.gaussian_filter(cover, 1.5)[..., None]
@@ -201,50 +256,21 @@ def _stamp(light, body, cover, shade, x, y, half):
     under += body[cut]
 
 
-def _effects(picture, scene):
-    random = np.random.RandomState(scene.seed + 9)
-    y, x = np.mgrid[0 : SIZE[1], 0 : SIZE[0]].astype(F)
-    rough = Field(scene.seed + 5, 90, 2, 1.7)
-    for sx, sy, tall in scene.smoke:
-        up = np.clip((sy - y) / tall, 0, 1.4)
-        middle = sx + 26 * up**1.5 + 6 * np.sin(up * 9 + sx)
-        wide = 11 + 40 * up
-        thick = np.exp(-(((x - middle) / wide) ** 2)) * np.clip(up * 7, 0, 1) * np.clip(1.15 - up, 0, 1) * (y < sy)
-        thick *= np.clip(0.95 + 0.4 * rough(x * 0.7, y * 0.7 + sx), 0, 1.2)
-        tone = 40 + 30 * np.clip(rough(x * 0.9 + 31, y * 0.9), -1, 2)
-        picture += (tone[..., None] * np.array([1.0, 0.97, 0.93]) - picture) * np.clip(thick * 0.9, 0, 0.9)[..., None]
-    for sx, sy, size in scene.bursts:
-        _burst(picture, x, y, sx, sy, size, rough, random)
-    for ax, ay, bx, by in scene.shots:
-        _tracer(picture, x, y, ax, ay, bx, by)
+def _fight(picture, scene, bodies, shots):
+    effects = Effects(picture, scene.seed + 9)
+    effects.haze()
+    for name, tall in sorted(scene.smoke, key=lambda s: bodies[s[0]].piece.y):
+        effects.smoke(*to_picture(bodies[name].middle()), tall)
+    for name, size in scene.bursts:
+        effects.burst(*to_picture(bodies[name].middle()), size)
+    for flight in shots:
+        path = [to_picture(point) for point in flight.path]
+        effects.flash(path[0], path[1])
+        if flight.shot.kind == "rocket":
+            effects.trail(path)
+            effects.tracer(path[-3:], 1.6)
+        else:
+            effects.tracer(path)
+        if flight.shot.reached >= 1:
+            effects.burst(*path[-1], 7)
     np.clip(picture, 0, 255, out=picture)
-
-
-def _burst(picture, x, y, sx, sy, size, rough, random):
-    """A fireball: white heart, orange flesh, dark ragged edge, sparks."""
-    d = np.hypot(x - sx, (y - sy) * 1.15) / size
-    near = d < 3
-    ragged = d + 0.22 * rough(x * 1.8 + sx, y * 1.8)
-    soot = np.clip(1.25 - ragged, 0, 1) * near
-    picture += (np.array([40, 32, 26]) - picture) * np.clip(soot * 2.2, 0, 0.85)[..., None]
-    flame = np.clip(1.05 - ragged, 0, 1)
-    for colour, start in (((190, 60, 14), 0.0), ((248, 150, 30), 0.28), ((255, 226, 120), 0.52), ((255, 252, 226), 0.74)):
-        picture += (np.array(colour) - picture) * np.clip((flame - start) * 5, 0, 1)[..., None]
-    picture += np.exp(-d * 1.4)[..., None] * np.array([80, 40, 8])
-    for _ in range(14):
-        a, far = random.uniform(0, 6.28), random.uniform(0.9, 2.0) * size
-        _tracer(picture, x, y, sx + far * 0.7 * np.cos(a), sy + far * 0.7 * np.sin(a) - 4, sx + far * np.cos(a), sy + far * np.sin(a) - 6, 0.8)
-
-
-def _tracer(picture, x, y, ax, ay, bx, by, width=1.3):
-    left, right = int(max(0, min(ax, bx) - 12)), int(min(SIZE[0], max(ax, bx) + 12))
-    top, bottom = int(max(0, min(ay, by) - 12)), int(min(SIZE[1], max(ay, by) + 12))
-    if left >= right or top >= bottom:
-        return
-    px, py = x[top:bottom, left:right] - ax, y[top:bottom, left:right] - ay
-    ex, ey = bx - ax, by - ay
-    t = np.clip((px * ex + py * ey) / (ex * ex + ey * ey + 1e-6), 0, 1)
-    d = np.hypot(px - t * ex, py - t * ey)
-    cut = picture[top:bottom, left:right]
-    cut += (np.exp(-((d / 4.0) ** 2)) * t * 0.5)[..., None] * np.array([255, 150, 40])
-    cut += (np.array([255, 246, 190]) - cut) * np.clip((width - d) * 1.2, 0, 1)[..., None] * (0.25 + 0.75 * t)[..., None]

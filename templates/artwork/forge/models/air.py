@@ -2,7 +2,7 @@
 
 from ..solid import Solid, ball, both, box, join, less, place, rod, slab, turn
 from .parts import (
-    ACCENT, ARMOUR, ARMOUR_DARK, GLASS, HOT, NAVY, ROOF, STEEL, STEEL_DARK, WHITE, blotches, seams, stripes
+    ACCENT, ARMOUR, ARMOUR_DARK, GLASS, HOT, NAVY, ROOF, STEEL, STEEL_DARK, WHITE, barrel, blotches, seams, stripes
 )
 
 
@@ -47,7 +47,7 @@ def gunship():
             pattern=stripes("x", 0.55, 0.6, 0.9),
         ),
         Solid(both(rod((0.5, 0.95, -0.28), (0.75, 0.95, -0.28), 0.13, 0.02)), ACCENT, 0.4),
-        Solid(rod((1.6, 0, -0.45), (2.5, 0, -0.5), 0.06), STEEL_DARK, 0.6),
+        *barrel((1.6, 0, -0.45), (2.5, 0, -0.5), 0.06, False),
         Solid(ball((1.5, 0, -0.4), 0.24), STEEL_DARK, 0.5),
         Solid(both(rod((-0.1, 0.45, 0.45), (-1.1, 0.42, 0.45), 0.22)), ARMOUR_DARK, 0.4),
     ]

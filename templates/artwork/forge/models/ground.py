@@ -2,7 +2,7 @@
 
 import numpy as np
 
-from ..solid import Solid, ball, both, box, join, less, place, ring, rod, slab, turn
+from ..solid import F, Solid, ball, both, box, join, less, place, ring, rod, slab, turn
 from .parts import (
     ACCENT, ARMOUR, ARMOUR_DARK, CLOTH, COLD, GLASS, NAVY, RUBBER, SAND, STEEL, STEEL_DARK, WHITE, barrel,
     blotches, hazard, lamp, mast, seams, stripes, tracks, wheels,
@@ -94,6 +94,11 @@ def scout():
     ]
 
 
+def _rocket(y, z):
+    mouth = np.array((1.35, y, z), F), np.array((1, 0, 0), F)
+    return Solid(rod((0.9, y, z), (1.18, y, z), 0.13, 0.02), ACCENT, 0.4, muzzle=mouth)
+
+
 def rocket_carrier():
     cab = slab([(1.0, 0.6), (2.5, 0.6), (2.55, 1.1), (2.25, 1.75), (1.0, 1.75)], -0.85, 0.85, edge=0.08)
     tilt = turn("y", -24)
@@ -105,11 +110,7 @@ def rocket_carrier():
             ),
             ARMOUR, 0.3, pattern=seams(0.65),
         ),
-        *[
-            Solid(rod((0.9, y, z), (1.18, y, z), 0.13, 0.02), ACCENT, 0.4)
-            for y in (-0.6, -0.2, 0.2, 0.6)
-            for z in (-0.2, 0.2)
-        ],
+        *[_rocket(y, z) for y in (-0.6, -0.2, 0.2, 0.6) for z in (-0.2, 0.2)],
     ]
     return [
         *wheels((-1.9, -0.85, 1.75), 0.46, 0.6, 1.0),

@@ -2,8 +2,8 @@
 
 import numpy as np
 
-from ..solid import F, Solid, ball, both, box, join, rod
-from .parts import CONCRETE, STEEL, STEEL_DARK, seams, stripes
+from ..solid import F, Solid, ball, both, box, join, rod, slab
+from .parts import CONCRETE, STEEL, seams, stripes
 
 BARK = (0.13, 0.085, 0.05)
 
@@ -66,26 +66,38 @@ def boulder():
     ]
 
 
-def bridge(span=19.0, width=3.8):
-    deck = box((0, 0, 0.15), (span, width, 0.35), 0.04)
-    rails = both(
-        join(
-            box((0, width / 2 - 0.1, 0.75), (span, 0.12, 0.1), 0.02),
-            *[
-                box((x, width / 2 - 0.1, 0.5), (0.14, 0.14, 0.6), 0.02)
-                for x in np.linspace(-span / 2 + 0.3, span / 2 - 0.3, 16)
-            ],
-        )
-    )
-    piers = join(
-        *[box((x, 0, -0.9), (0.9, width - 0.4, 2.2), 0.15) for x in (-span / 5, span / 5)],
-        *[box((x, 0, -0.7), (1.2, width + 0.8, 2.2), 0.1) for x in (-span / 2, span / 2)],
-    )
-    lane = lambda p: np.where((np.abs(p[..., 1]) < 0.08) & ((p[..., 0] / F(0.9)) % 1 < 0.5), F(2.0), F(1))
+BRIDGE_DECK = 0.75  # metres from the banks up to its carriageway
+BRIDGE_ROAD = 3.5  # width of the carriageway, that of the roads
+
+
+def bridge(span=20.0, ramp=4.5):
+    """Crosses along x: a deck on piers, with a ramp of earth and stone at either end."""
+    end, foot, half = span / 2, span / 2 + ramp, BRIDGE_ROAD / 2
+    top = [(-foot, -0.02), (-end, BRIDGE_DECK), (end, BRIDGE_DECK), (foot, -0.02)]
+    under = [(end + 0.2, BRIDGE_DECK - 0.5), (-end - 0.2, BRIDGE_DECK - 0.5)]
+    ramps = [slab([(s * (end - 0.3), -1.5), (s * (end - 0.3), BRIDGE_DECK - 0.06), (s * foot, -0.1), (s * foot, -1.5)],
+                  -half - 0.45, half + 0.45, edge=0.05) for s in (1, -1)]
+    kerb = both(slab([*top, *[(x, z + 0.22) for x, z in reversed(top)]], half, half + 0.3, edge=0.02))
+    places = np.linspace(-end + 0.4, end - 0.4, 14)
+    posts = [box((x, half + 0.15, BRIDGE_DECK + 0.45), (0.16, 0.14, 0.6), 0.02) for x in places]
+    rails = [rod((-end, half + 0.15, BRIDGE_DECK + z), (end, half + 0.15, BRIDGE_DECK + z), 0.055) for z in (0.45, 0.75)]
+    piers = join(*[box((x, 0, -1.2), (1.1, BRIDGE_ROAD + 0.5, 3.0), 0.18) for x in (-end / 2, 0, end / 2)])
+    caps = join(*[box((x, 0, 0.12), (1.6, BRIDGE_ROAD + 0.9, 0.3), 0.05) for x in (-end / 2, 0, end / 2)])
+    heads = both(join(*[box((s * end, half + 0.35, 0.35), (0.8, 0.6, 2.2), 0.06) for s in (1, -1)]))
+
+    def lane(p):
+        dashes = (np.abs(p[..., 1]) < 0.09) & ((p[..., 0] / F(1.6)) % 1 < 0.5) & (np.abs(p[..., 0]) < end)
+        return np.where(dashes, F(2.6), F(1))
+
+    stones = seams(0.7, 0.75, 0.05, "xz")
     return [
-        Solid(deck, (0.17, 0.165, 0.155), 0.05, pattern=lane),
-        Solid(rails, STEEL_DARK, 0.3),
-        Solid(piers, CONCRETE, 0.1, pattern=seams(0.7, 0.75, 0.04, "xz")),
+        Solid(slab(top + under, -half, half, edge=0.03), (0.16, 0.155, 0.145), 0.05, pattern=lane),
+        Solid(join(*ramps), CONCRETE, 0.1, pattern=seams(0.9, 0.85, 0.05, "xy")),
+        Solid(kerb, CONCRETE, 0.1),
+        Solid(both(join(*posts, *rails)), STEEL, 0.4),
+        Solid(piers, CONCRETE, 0.1, pattern=stones),
+        Solid(caps, CONCRETE, 0.1),
+        Solid(heads, CONCRETE, 0.1, pattern=stones),
     ]
 
 
