@@ -268,9 +268,9 @@ def _fight(picture, scene, bodies, shots):
         effects.flash(path[0], path[1])
         if flight.shot.kind == "rocket":
             effects.trail(path)
-            effects.tracer(path[-3:], 1.6)
+            effects.tracer([path[-2], path[-1]], 1.8, 0.9)
         else:
-            effects.tracer(path)
+            effects.tracer(path if flight.shot.kind == "lob" else [path[0], path[-1]], 1.1)
         if flight.shot.reached >= 1:
-            effects.burst(*path[-1], 7)
+            effects.burst(*path[-1], 6)
     np.clip(picture, 0, 255, out=picture)

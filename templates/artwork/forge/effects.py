@@ -22,14 +22,14 @@ class Effects:
         """A plume that leans with the wind and frays towards its top."""
         up = np.clip((sy - self.y) / tall, 0, 1.4)
         middle = sx + 0.2 * tall * up**1.5 + 5 * np.sin(up * 9 + sx)
-        wide = 5 + tall * 0.055 + tall * 0.24 * up
-        curl = self.rough(self.x * 1.1 + sx, self.y * 1.1 + up * 14)
+        wide = 5 + tall * 0.06 + tall * 0.26 * up
+        curl = self.rough(self.x * 0.7 + sx, self.y * 0.7 + up * 9)
         thick = np.exp(-(((self.x - middle) / wide) ** 2)) * np.clip(up * 9, 0, 1) * np.clip(1.2 - up, 0, 1)
-        thick *= (self.y < sy) * np.clip(0.95 + 0.45 * curl, 0, 1.3)
+        thick *= (self.y < sy) * np.clip(1.1 + 0.4 * curl, 0, 1.6)
         lit = np.clip(0.5 - (self.x - middle) / wide * 0.4 + 0.3 * curl, 0, 1)  # the sun stands to the left
         tone = 26 + 44 * up.clip(0, 1) + 46 * lit
         smoke = tone[..., None] * np.array([1.0, 0.96, 0.91])
-        self.picture += (smoke - self.picture) * np.clip(thick * 0.95, 0, 0.92)[..., None]
+        self.picture += (smoke - self.picture) * np.clip(thick * 1.25, 0, 0.93)[..., None]
 
     def burst(self, sx, sy, size):
         """A fireball: white heart, orange flesh, dark ragged edge, sparks."""
@@ -59,38 +59,50 @@ class Effects:
         self._lay((255, 248, 214), np.clip((tongue - 0.3) * 5, 0, 1))
 
     def trail(self, path):
-        """White smoke behind a rocket along the path of points."""
+        """White smoke behind a rocket along the path of points, wider and thinner with age."""
+        path = _every(path, 2.5)
         for share, (px, py) in zip(np.linspace(0, 1, len(path)), path):
-            wide = 2.2 + 3.4 * (1 - share)
-            d = np.hypot(self.x - px, self.y - py) / wide
-            ragged = d + 0.35 * self.rough(self.x * 2 + px, self.y * 2)
-            self._lay((206, 202, 194), np.clip(1 - ragged, 0, 1) * (0.1 + 0.45 * share))
+            wide = 2.0 + 4.0 * (1 - share)
+            near = self._window(px - 12, py - 12, px + 12, py + 12)
+            x, y = self.x[near], self.y[near]
+            d = np.hypot(x - px, y - py) / wide + 0.35 * self.rough(x * 2 + F(px * 0.2), y * 2)
+            amount = np.clip(1 - d, 0, 1) * (0.12 + 0.5 * share)
+            self.picture[near] += (np.array((214, 210, 202)) - self.picture[near]) * amount[..., None]
 
-    def tracer(self, path, width=1.3):
+    def tracer(self, path, width=1.3, glow=0.42):
         """A bright streak along a path of points, brightest at its end."""
         count = len(path) - 1
         for step, (a, b) in enumerate(zip(path, path[1:])):
-            self._streak(a, b, width, step / count, (step + 1) / count)
+            self._streak(a, b, width, glow, step / count, (step + 1) / count)
 
-    def _streak(self, a, b, width, first, last):
-        h, w = self.x.shape
+    def _streak(self, a, b, width, glow, first, last):
         (ax, ay), (bx, by) = a, b
-        left, right = int(max(0, min(ax, bx) - 12)), int(min(w, max(ax, bx) + 12))
-        top, bottom = int(max(0, min(ay, by) - 12)), int(min(h, max(ay, by) + 12))
-        if left >= right or top >= bottom:
-            return
-        px, py = self.x[top:bottom, left:right] - ax, self.y[top:bottom, left:right] - ay
+        near = self._window(min(ax, bx) - 12, min(ay, by) - 12, max(ax, bx) + 12, max(ay, by) + 12)
+        px, py = self.x[near] - ax, self.y[near] - ay
         ex, ey = bx - ax, by - ay
         along = (px * ex + py * ey) / (ex * ex + ey * ey + 1e-6)
         t = np.clip(along, 0, 1)
         d = np.hypot(px - t * ex, py - t * ey)
-        if first > 0:  # only the first piece of a path has a round beginning
-            d = np.where(along < 0, F(99), d)
-        bright = first + (last - first) * t
-        cut = self.picture[top:bottom, left:right]
-        cut += (np.exp(-((d / 4.0) ** 2)) * bright * 0.5)[..., None] * np.array([255, 150, 40])
-        core = np.clip((width - d) * 1.2, 0, 1) * (0.25 + 0.75 * bright)
-        cut += (np.array([255, 246, 190]) - cut) * core[..., None]
+        # Inside a path of several pieces none has round ends: they would lie over each other.
+        d = np.where((along < 0) & (first > 0) | (along >= 1) & (last < 1), F(99), d)
+        bright = (first + (last - first) * t) ** 1.4
+        cut = self.picture[near]
+        cut += (np.exp(-((d / 3.2) ** 2)) * bright * glow)[..., None] * np.array([255, 140, 36])
+        core = np.clip((width - d) * 1.2, 0, 1) * (0.12 + 0.88 * bright)
+        cut += (np.array([255, 244, 186]) - cut) * core[..., None]
+
+    def _window(self, left, top, right, bottom):
+        h, w = self.x.shape
+        edge = lambda low, high, size: slice(*np.clip((int(low), int(high)), 0, size))
+        return edge(top, bottom, h), edge(left, right, w)
 
     def _lay(self, colour, amount):
         self.picture += (np.array(colour) - self.picture) * amount[..., None]
+
+
+def _every(path, step):
+    """Points on the path about step pixels apart."""
+    path = np.array(path, float)
+    reached = np.concatenate([[0], np.cumsum(np.hypot(*np.diff(path, axis=0).T))])
+    at = np.arange(0, reached[-1], step)
+    return np.stack([np.interp(at, reached, path[:, axis]) for axis in (0, 1)], axis=1)

@@ -7,6 +7,7 @@ import numpy as np
 from .camera import nearest
 from .solid import F, fenced, length, turn
 
+SPREAD = 0.8
 TOLERANCE = 12  # degrees by which a gun may point past its target
 CLIMB = {"shell": 0.0, "lob": 0.14, "rocket": 0.2}  # height of a flight's arc, in lengths of the flight
 
@@ -78,8 +79,10 @@ def flights(bodies, shots, land_height):
     found = []
     for shot in shots:
         shooter, target = bodies[shot.shooter], bodies[shot.target]
-        for muzzle in _guns(shooter, target, shot):
-            path = _path(muzzle, _impact(muzzle, target), CLIMB[shot.kind])
+        guns = _guns(shooter, target, shot)
+        for muzzle in guns:
+            aside = (muzzle - np.mean(guns, axis=0)) * SPREAD  # guns side by side fire side by side
+            path = _path(muzzle, _impact(muzzle, target, aside), CLIMB[shot.kind])
             _refuse_blocked(path, shot, bodies, land_height)
             found.append(Flight(path[: max(2, int(len(path) * shot.reached))], shot))
     return found
@@ -96,9 +99,9 @@ def _guns(shooter, target, shot):
     return [point for point, _ in guns]
 
 
-def _impact(muzzle, target):
-    """Where the straight way from the muzzle to the target's middle meets its surface."""
-    way = target.middle() - muzzle
+def _impact(muzzle, target, aside):
+    """Where the straight way from the muzzle to the target's middle, or aside of it, meets its surface."""
+    way = target.middle() + aside - muzzle
     span = np.sqrt(way @ way)
     travelled = 0.0
     for _ in range(90):

@@ -100,7 +100,7 @@ def _crossing():
         green.piece(ground.light_tank, 4, -33, 95, name="reserve"),
         green.piece(ground.light_tank, -8, -33, 80),
         green.piece(ground.flak, -14, -24, 60),
-        green.piece(buildings.searchlight, 20, -26, 10, 1.3),
+        green.piece(buildings.searchlight, 15, -36, 40, 1.3),
     ]
     yard = [
         base.piece(buildings.power_plant, -7, -11.5, 0, 1.5), base.piece(buildings.radar_dome, -7, -0.5, 0, 1.5),
@@ -126,10 +126,10 @@ def _crossing():
             Shot("lead", "gate keeper"), Shot("gate keeper", "lead", rounds=2), Shot("first", "tower", rounds=2),
             Shot("right", "tower"), Shot("left", "left tower"), Shot("left tower", "left"),
             Shot("tower", "right", rounds=2), Shot("gunship", "tower"),
-            Shot("rockets", "depot", "rocket", 2, 0.45), Shot("more rockets", "depot", "rocket", 1, 0.3),
+            Shot("rockets", "depot", "rocket", 2, 0.4), Shot("more rockets", "depot", "rocket", 1, 0.2),
             Shot("battery", "second", "rocket", 2, 0.8),
         ],
-        bursts=[("tower", 20), ("right rear", 24), ("depot", 20)],
+        bursts=[("tower", 17), ("right rear", 20), ("depot", 20)],
         smoke=[("depot", 170), ("tower", 120), ("right rear", 150), ("left", 70)])
 
 
@@ -150,7 +150,7 @@ def _landing():
     ]
     ashore = [
         green.piece(ground.heavy_tank, 4, -37, None, name="first"), green.piece(ground.light_tank, -4, -33, None, name="left"),
-        green.piece(ground.light_tank, 11, -34, None, name="right"), green.piece(ground.light_tank, -11, -39, 84),
+        green.piece(ground.light_tank, 10, -32, None, name="right"), green.piece(ground.light_tank, -11, -39, 84),
         green.piece(ground.scout, -14, -31, 75), green.piece(ground.heavy_tank, -1, -44, 90),
         green.piece(air.gunship, -24, -32, None, name="gunship", lift=85),
         green.piece(air.bomber, -34, -52, 88, 1.3, lift=120),
@@ -183,7 +183,7 @@ def _landing():
         pieces=[*fleet, *ashore, *defence, *yard, *woods],
         shots=[
             Shot("first", "gate keeper", rounds=2), Shot("left", "tower"), Shot("right", "right tower"),
-            Shot("gate keeper", "first", rounds=2), Shot("right tower", "right", rounds=2),
+            Shot("gate keeper", "first", rounds=2), Shot("right tower", "right", rounds=2), Shot("tower", "left"),
             Shot("gunship", "tower"), Shot("boat", "right tower", "lob"), Shot("flagship", "depot", "lob", 3),
             Shot("second ship", "tower", "lob", 3), Shot("battery", "skimmer", "rocket", 2, 0.75),
         ],
