@@ -45,6 +45,9 @@ void SavePicture(const Editor& editor, const std::string& name) {
   EXPECT_LT(different, 2000) << path;
 }
 
+// Where the user keeps pictures: the manual shows this path.
+fs::path UserFolder() { return fs::u8path(std::getenv("PUBLIC")) / "Pictures" / "Corvanta"; }
+
 // Goes through the export's dialogs up to its OK button.
 HWND BeginExport(const Editor& editor, const std::string& shp, const std::string& pal) {
   editor.Command(IDM_SAVE_AS_SHP);
@@ -62,11 +65,15 @@ HWND BeginExport(const Editor& editor, const std::string& shp, const std::string
 // back into a picture, which is saved as <name>.shp.png and returned: the screen as the game shows
 // it.
 ImageClass ExportSprite(const Editor& editor, const std::string& name, int colours) {
-  const std::string shp = NewResultPath(name + ".shp"), pal = NewResultPath(name + ".pal");
+  const std::string shp = NewResultPath(name + ".shp"), result = NewResultPath(name + ".pal");
+  const std::string pal = (UserFolder() / (name + ".pal")).string();
+  fs::create_directories(UserFolder());
+  fs::remove(pal);
   const HWND options = BeginExport(editor, shp, pal);
   if (colours != 256) Type(options, IDC_SHP_COLOURS, std::to_string(colours));
   Screenshot(options, "shp-options-" + name);
   editor.Close(options, IDOK);
+  fs::copy_file(pal, fs::u8path(result));
 
   const ImageClass sprite = ReadSprite(ReadContent(shp), ReadContent(pal));
   const auto used = static_cast<int>(CountColours(sprite));
@@ -78,7 +85,6 @@ ImageClass ExportSprite(const Editor& editor, const std::string& name, int colou
 TEST(CoreTest, SavesTheSamePictureInEveryFormatAfterStartUp) {
   Editor editor;
   editor.WaitForPicture();
-  Screenshot(editor.Main(), "main");
   EXPECT_EQ(editor.Status(), "Allied - 2");
   SavePicture(editor, "start.png");
   ExportSprite(editor, "start", 256);
@@ -408,9 +414,9 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
   }
 
   // A copy of the sample alone beside a folder, so that it is the last line of the Open dialog's
-  // list. The manual shows this path.
+  // list.
   std::string LentSample() {
-    const fs::path folder = fs::u8path(std::getenv("PUBLIC")) / "Pictures" / "Corvanta";
+    const fs::path folder = UserFolder();
     fs::remove_all(folder);
     fs::create_directories(folder / "Maps");
     fs::copy(fs::u8path(CORVANTA_SOURCE "/templates/samples") / plan.screenshot.sample,
