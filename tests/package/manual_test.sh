@@ -1,13 +1,21 @@
 #!/usr/bin/env bash
 # manual_test.sh: every link and picture of the manual leads somewhere, every page and picture is
-# led to, and the contents and the index name pages that exist.
+# led to, and the contents and the index name pages that exist. Every message of the program is
+# explained, and README and manual name the same address as the About box.
 set -eu
-cd "$(dirname "$0")/../../docs/manual"
+cd "$(dirname "$0")/../.."
 wrong=0
 say() {
   echo "FAILED: $*" >&2
   wrong=1
 }
+
+text=$(tr '\n' ' ' <docs/manual/trouble.html | sed 's/<br>/ /g')
+while read -r message; do
+  [[ $text == *"\"$message\""* ]] || say "the manual does not explain: $message"
+done < <(grep -rhoE --include=*.cpp --exclude-dir=platform '"(Error: |Please )[^"]*"|"[A-Z][^"]*[!?]"' src |
+  tr -d '"' | sed 's/\\n/ /')
+cd docs/manual
 
 # "page target" for every reference within the manual.
 references=$(grep -oE '(href|src)="[^"]*"|"Local" value="[^"]*"' ./*.h* |

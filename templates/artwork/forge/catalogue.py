@@ -66,7 +66,7 @@ ADDING YOUR OWN ICONS AND SYMBOLS
 
 Icons must be exactly 76 x 60 pixels.
 
-Symbols may have any size up to 800 x 520; 24 to 48 pixels look best.
+Symbols may have any size up to 700 x 420; 24 to 48 pixels look best.
 Two colours have a meaning, and only if they match exactly:
 
     blue    0, 0, 255     transparent
