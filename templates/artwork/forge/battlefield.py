@@ -17,7 +17,9 @@ SCALE = 12.0  # pixels a metre
 CELL = 0.15  # metres between two points of the relief
 AZIMUTH, ELEVATION = 45, 32
 SUN = Light(towards=(0.25, -0.62, 0.72), warm=(1.35, 1.22, 1.0))
-TEAMS = {"none": ACCENT, "red": (0.55, 0.045, 0.03), "green": (0.08, 0.42, 0.30), "violet": (0.38, 0.08, 0.52)}
+TEAMS = {
+    "none": ACCENT, "red": (0.55, 0.045, 0.03), "green": (0.08, 0.42, 0.30), "violet": (0.38, 0.08, 0.52),
+}
 
 
 @dataclass(frozen=True)
@@ -83,7 +85,9 @@ class Land:
         self.rolling, self.fine = Field(scene.seed, 120, 2, 2.2), Field(scene.seed + 1, 24, 4, 1.5)
         self.swell = Field(scene.seed + 3, 60, 6, 2.4)
         self.patches = Field(scene.seed + 2, 70, 3, 1.9)
-        self.spots = [(*to_ground(p.x, p.y), 4.2 * p.scale) for p in scene.pieces if p.scale > 1.2 and not p.lift]
+        self.spots = [
+            (*to_ground(p.x, p.y), 4.2 * p.scale) for p in scene.pieces if p.scale > 1.2 and not p.lift
+        ]
         self.yards = [(*to_ground(a.x, a.y), a.deep / 2, a.wide / 2) for a in scene.aprons]
         self.ways = [[to_ground(*at) for at in road] for road in scene.roads]
         # The relief is worked out once on a grid: rays ask for it some hundred times a pixel.
@@ -146,7 +150,9 @@ class Land:
         d = self.road(x, y) + F(0.12) * fine
         on = np.clip((1.75 - d) * 4, 0, 1)[:, None]
         ruts = (0.8 + 0.2 * np.cos(np.clip(d, 0, 1.5) * 5.5))[:, None]
-        colour = colour * (1 - on) + np.array((0.235, 0.195, 0.14), F) * ruts * (1 + 0.06 * fine[:, None]) * on
+        colour = colour * (1 - on) + np.array((0.235, 0.195, 0.14), F) * ruts * (
+            1 + 0.06 * fine[:, None]
+        ) * on
         colour = self._paved(colour, x, y, fine)
         depth = np.clip((-self.height(x, y) - 0.55) / 1.6, 0, 1)[:, None]
         water = np.array((0.10, 0.17, 0.14), F) * (1 - depth) + np.array((0.015, 0.055, 0.075), F) * depth
@@ -159,7 +165,9 @@ class Land:
         on = np.clip((F(0.15) - d + F(0.1) * fine) * 5, 0, 1)[:, None]
         joint = np.minimum(np.abs(x % F(2.4) - F(1.2)), np.abs(y % F(2.4) - F(1.2))) < 0.06
         slab = np.sin(np.floor(x / F(2.4) + F(0.5)) * 12.9 + np.floor(y / F(2.4) + F(0.5)) * 78.2)
-        tone = (1 + 0.06 * slab + 0.04 * fine) * np.where(joint, 0.74, 1) * np.where(np.abs(d + 0.7) < 0.14, 1.35, 1)
+        tone = (1 + 0.06 * slab + 0.04 * fine) * np.where(joint, 0.74, 1) * np.where(
+            np.abs(d + 0.7) < 0.14, 1.35, 1
+        )
         tone *= 1 - 0.22 * np.clip(self.patches(x * 3 + 17, y * 3) - 0.9, 0, 1)
         return colour * (1 - on) + np.array((0.27, 0.26, 0.235), F) * tone[:, None] * on
 
@@ -184,7 +192,9 @@ def paint(scene):
     start = start + way * ((start[:, 2:3] - F(6)) / -way[:, 2:3])
     shot = photograph(land.solids(), SIZE, start, way, SUN, fade=land.texture)
     light = shot.colour
-    order = sorted((body.piece for body in bodies.values()), key=lambda p: (p.lift > 0, p.level is not None, p.y))
+    order = sorted(
+        (body.piece for body in bodies.values()), key=lambda p: (p.lift > 0, p.level is not None, p.y)
+    )
     for piece in order:
         _set_down(light, land, piece)
     picture = develop(light, 0.85)

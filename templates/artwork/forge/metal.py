@@ -13,6 +13,7 @@ from scipy import ndimage
 from . import pixelfont
 from .canvas import KEY, hexrgb
 
+F_TINY = 1e-6  # keeps a plate of one tone from dividing by zero
 FINER = 3  # plates are lit on a grid this many times finer
 LAMP = np.array([-0.5, -0.68, 0.54])
 
@@ -24,6 +25,7 @@ class Paint:
     colour: str
     brushed: float = 0.05
     gloss: float = 0.35
+    bare: str = ""  # steel that shows where paint has worn off the edges; unpainted metal has none
 
 
 class Bench:
@@ -79,14 +81,33 @@ class Bench:
         gy, gx = np.gradient(height, 1 / FINER)
         size = np.sqrt(gx * gx + gy * gy + 1)
         facing = (-gx * LAMP[0] - gy * LAMP[1] + LAMP[2]) / size
-        grain = self.random.standard_normal(depth.shape).astype(np.float32)
-        grain = ndimage.uniform_filter1d(grain, 17 * FINER, axis=1)
-        grain = ndimage.uniform_filter1d(grain, FINER, axis=0)
-        grain /= grain.std() + 1e-6
+        grain = self._grain(depth.shape, paint)
         down = np.linspace(1.12, 0.86, depth.shape[0])[:, None]
         tone = (0.42 + 1.05 * np.clip(facing, 0, 1)) * (1 + paint.brushed * grain) * down
         gleam = np.clip(facing, 0, 1) ** 14 * paint.gloss * 210 * (size > 1.05)
-        return np.array(hexrgb(paint.colour), np.float32) * tone[..., None] + gleam[..., None]
+        colour = np.array(hexrgb(paint.colour), np.float32)
+        if paint.bare:
+            colour = colour + (np.array(hexrgb(paint.bare), np.float32) - colour) * self._wear(depth)[..., None]
+        return colour * tone[..., None] + gleam[..., None]
+
+    def _noise(self, shape, reach):
+        noise = ndimage.gaussian_filter(self.random.standard_normal(shape).astype(np.float32), reach)
+        return noise / (noise.std() + F_TINY)
+
+    def _grain(self, shape, paint):
+        """Strokes of the brush on bare metal; paint lies in soft clouds and fine grit instead."""
+        if paint.bare:
+            return 0.8 * self._noise(shape, FINER * 7) + 0.45 * self._noise(shape, FINER * 0.4)
+        grain = self.random.standard_normal(shape).astype(np.float32)
+        grain = ndimage.uniform_filter1d(grain, 17 * FINER, axis=1)
+        grain = ndimage.uniform_filter1d(grain, FINER, axis=0)
+        return grain / (grain.std() + F_TINY)
+
+    def _wear(self, depth):
+        """How far the paint is gone: chipped along the edges, scratched here and there."""
+        chips = self._noise(depth.shape, FINER * 0.9) + 0.6 * self._noise(depth.shape, FINER * 5)
+        edge = np.clip(1 - np.abs(depth - 2.2) / 2.2, 0, 1)
+        return np.clip((chips + 2.2 * edge - 2.75) * 2.5, 0, 0.85)
 
     def fill(self, draw, colour, opacity=1.0, cover=False):
         """Flat colour; covers new pixels only when told to, otherwise stays on laid metal."""

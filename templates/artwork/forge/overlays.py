@@ -5,14 +5,16 @@ from dataclasses import dataclass
 import numpy as np
 from scipy import ndimage
 
-from . import emblems, pixelfont
+from . import contours, emblems, gauges, pixelfont
 from .canvas import ICON, ICONS_AT, SCREEN, SHOT, SHOT_AT, hexrgb
+from .contours import DECK
 from .metal import Bench, Paint, circle, line, outline, polygon
 
 
 @dataclass(frozen=True)
 class Look:
-    corner: str  # how the corners of plates are made
+    contour: type  # outlines of the big plates
+    gauges: type  # instruments on them
     base: Paint
     deep: Paint
     trim: Paint
@@ -25,17 +27,30 @@ class Look:
     title: str
     short: str
 
+    @property
+    def corner(self):
+        """How the corners of small plates are made."""
+        return self.contour.corner
+
 
 LOOKS = {
-    "all": Look("cut", Paint("566c84", 0.05, 0.4), Paint("34465a", 0.05, 0.3), Paint("a4b4c4", 0.04, 0.6), Paint("1c2a3a", 0.04, 0.1),
-                Paint("244a78", 0.03, 0.3), "7cd8ff", "d8ecfa", "1a4058", emblems.beacon, "ALLIED THEATRE COMMAND", "ALLIED"),
-    "sov": Look("step", Paint("64362a", 0.07, 0.3), Paint("443a36", 0.09, 0.25), Paint("b08040", 0.06, 0.5), Paint("241412", 0.05, 0.1),
-                Paint("7c1c14", 0.04, 0.3), "ffa030", "f8dcb0", "582410", emblems.foundry, "SOVIET FRONT DIRECTORATE", "SOVIET"),
-    "psy": Look("round", Paint("5a3e78", 0.04, 0.45), Paint("3a2850", 0.05, 0.35), Paint("b094c4", 0.03, 0.6), Paint("1c1028", 0.04, 0.1),
-                Paint("48206c", 0.03, 0.4), "a4ff60", "ecdcff", "40185c", emblems.watcher, "YURI OBSERVATORY", "YURI"),
+    "all": Look(
+        contours.Cut, gauges.Bars, Paint("566c84", 0.05, 0.4), Paint("34465a", 0.05, 0.3), Paint("a4b4c4", 0.04, 0.6),
+        Paint("1c2a3a", 0.04, 0.1), Paint("244a78", 0.03, 0.3), "7cd8ff", "d8ecfa", "1a4058", emblems.beacon,
+        "ALLIED THEATRE COMMAND", "ALLIED",
+    ),
+    "sov": Look(
+        contours.Stepped, gauges.Dials, Paint("7c2a20", 0.045, 0.4, "a89a8c"), Paint("47423e", 0.05, 0.35, "8c8680"),
+        Paint("b08040", 0.03, 0.5), Paint("241412", 0.03, 0.1), Paint("7c1c14", 0.04, 0.3), "ffa030", "f8dcb0", "4e2c06",
+        emblems.foundry, "SOVIET FRONT DIRECTORATE", "SOVIET",
+    ),
+    "psy": Look(
+        contours.Flowing, gauges.Waves, Paint("5a3e78", 0.03, 0.5), Paint("3a2850", 0.035, 0.4),
+        Paint("b094c4", 0.03, 0.6), Paint("1c1028", 0.03, 0.1), Paint("48206c", 0.03, 0.4), "a4ff60", "ecdcff", "40185c",
+        emblems.watcher, "YURI OBSERVATORY", "YURI",
+    ),
 }
 
-DECK = 470  # top of the lower deck
 BAR = 26  # height of the title bar
 
 
@@ -70,20 +85,20 @@ def _surround(bench, look):
     bench.plate(lambda c: c.rectangle(0, 506, w, 14) or c.fill(), look.deep, 3)
     bench.plate(lambda c: c.rectangle(0, 0, w, BAR) or c.fill(), look.base, 4)
     bench.plate(lambda c: c.rectangle(8, 6, w - 16, 13) or c.fill(), look.well, 2, sunken=True)
+    for shape in look.contour.extras():
+        bench.plate(shape, look.deep, 3)
     for y in range(52, 320, 24):
         _studs(bench, look, [(7, y)])
     for y in range(52, 240, 24):
         _studs(bench, look, [(w - 7, y)])
-    for x in (20, 560):
-        for i in range(22):
-            lit = (i * 7 + x) % 5 != 0
-            bench.fill(lambda c: c.rectangle(x + 10 * i, 10, 7, 5) or c.fill(), look.glow if lit else "000000", 0.42 if lit else 0.5)
+    for x in (20, 562):
+        look.gauges.strip(bench, look, x)
     bench.glow(line([(14, 23.5), (236, 23.5)], 1), look.glow, 2, 0.3)
     bench.glow(line([(564, 23.5), (786, 23.5)], 1), look.glow, 2, 0.3)
 
 
 def _title(bench, look):
-    shape = [(232, 0), (568, 0), (552, 36), (540, 44), (260, 44), (248, 36)]
+    shape = look.contour.title
     bench.shadow(polygon(shape), 8, 0.7, (0, 3))
     bench.plate(polygon(shape), look.base, 4)
     bench.plate(outline(262, 9, 276, 25, 5, look.corner), look.well, 2.5, sunken=True)
@@ -93,35 +108,26 @@ def _title(bench, look):
 
 
 def _deck(bench, look):
-    """The console's lower half, with a row of lamps and grilles."""
-    bench.plate(polygon([(170, DECK), (534, DECK), (534, 520), (150, 520), (150, 490)]), look.base, 4)
-    bench.plate(outline(236, 481, 286, 26, 5, look.corner), look.well, 2.5, sunken=True)
-    bench.text("LINK", 246, 491, look.ink, font=pixelfont.TINY, align="left")
-    for i in range(24):
-        tall = [6, 9, 12, 8, 10, 14, 11, 7][i * 5 % 8]
-        bench.fill(lambda c: c.rectangle(270 + 6 * i, 501 - tall, 4, tall) or c.fill(), look.glow, 0.85 if i < 17 else 0.22)
-    bench.text("CH 07", 514, 491, look.ink, font=pixelfont.TINY, align="right")
-    for i in range(5):
-        bench.plate(circle(432 + 12 * i, 494, 4), look.deep, 1.5)
-        lamp = look.glow if i in (0, 1, 3) else "403830"
-        bench.glow(circle(432 + 12 * i, 494, 2), lamp, 3, 0.5 if i in (0, 1, 3) else 0.0)
-    bench.hazard(polygon([(180, 511), (526, 511), (526, 517), (180, 517)]), look.trim.colour, "14110f")
+    """The console's lower half with its instruments."""
+    bench.plate(polygon(look.contour.deck), look.base, 4)
+    bench.plate(outline(*gauges.PANEL, 5, look.corner), look.well, 2.5, sunken=True)
+    look.gauges.panel(bench, look)
 
 
 def _tower(bench, look, count):
     """The console's upper half around the icon slots."""
     xs = [x for x, _ in ICONS_AT[count]]
     left, right = xs[0] - 16, min(xs[-1] + ICON[0] + 16, 534)
-    bench.plate(polygon([(left - 34, DECK + 2), (left - 4, DECK - 34), (left - 4, 372), (left + 10, 356), (right - 10, 356), (right + 4, 372), (right + 4, DECK - 34), (right + 34, DECK + 2)]), look.deep, 4)
+    bench.plate(polygon(look.contour.tower(left, right)), look.deep, 4)
     bench.plate(outline(left, 360, right - left, DECK - 354, 9, look.corner), look.base, 4)
     centre = (xs[0] + xs[-1] + ICON[0]) // 2
     bench.text("SPECIAL UNITS", centre, 366, look.ink, spacing=2)
     for s in (-1, 1):
         bench.glow(line([(centre + s * 66, 369.5), (centre + s * ((right - left) // 2 - 16), 369.5)], 1.4), look.glow, 3, 0.4)
     y = 380 + ICON[1] + 14
-    for i, x in enumerate(xs):
+    for number, x in enumerate(xs, 1):
         bench.plate(outline(x + 18, y - 6, ICON[0] - 36, 12, 3, look.corner), look.well, 2, sunken=True)
-        bench.text(f"UNIT {i + 1}", x + ICON[0] // 2, y - 2, look.ink, font=pixelfont.TINY)
+        look.gauges.count(bench, look, x + ICON[0] // 2, y, number)
     _studs(bench, look, [(left + 8, 452), (right - 8, 452), (left + 8, 378), (right - 8, 378)])
 
 
@@ -157,8 +163,7 @@ def _screen(bench, look):
     """The battlefield monitor. The large frame hides its upper left corner."""
     (x, y), (w, h) = SHOT_AT, SHOT
     bench.shadow(outline(x - 14, y - 12, w + 26, h + 24, 12, look.corner), 8, 0.6)
-    tab = [(642, 256), (654, 236), (776, 236), (790, 256)]
-    bench.plate(polygon(tab), look.deep, 3)
+    bench.plate(polygon(look.contour.tab), look.deep, 3)
     # Behind the monitor's corners: no gap between it and its neighbours lets the map show.
     for left, top, width, height in ((x + w, y - 11, 11, 12), (x + w, y + h - 12, 11, 19), (x - 14, y + h - 12, 13, 19)):
         bench.plate(lambda c: c.rectangle(left, top, width, height) or c.fill(), look.deep, 1, outline=False)
@@ -170,12 +175,9 @@ def _screen(bench, look):
     bench.glow(circle(768, 246, 2.2), look.glow, 3, 0.6)
     _dark_glass(bench, look, x, y, w, h, 13)
     middle = (x + w // 2, y + h // 2 + 20)
-    for k in (28, 60):
-        bench.fill(lambda c: c.set_line_width(1) or c.arc(*middle, k, 0, 7) or c.stroke(), look.glow, 0.35)
-    for a, b in (((-90, 0), (-10, 0)), ((10, 0), (90, 0)), ((0, -90), (0, -10)), ((0, 10), (0, 80))):
-        bench.fill(line([(middle[0] + a[0], middle[1] + a[1] + 0.5), (middle[0] + b[0], middle[1] + b[1] + 0.5)], 1), look.glow, 0.3)
-    noise = ndimage.gaussian_filter(bench.random.standard_normal((h, w)), (0.3, 6))
-    bench.rgb[y : y + h, x : x + w] += (noise / noise.std() * 3)[..., None]
+    look.gauges.scope(bench, look, *middle)
+    noise = ndimage.gaussian_filter(bench.random.standard_normal((h, w)), (0.3, 1.2))
+    bench.rgb[y : y + h, x : x + w] += (noise / noise.std() * 2.2)[..., None]
     bench.text("NO SIGNAL", middle[0], middle[1] + 36, look.ink, spacing=3)
     _corners(bench, look, x + 8, y + 8, w - 16, h - 16, 16)
     _studs(bench, look, [(x - 9.5, y + h - 30), (x - 9.5, y + h - 6), (x + w + 9.5, y + 2), (x + w + 9.5, y + h - 6), (x + w + 9.5, y + h // 2), (x + w // 2, y + h + 9)])
@@ -183,7 +185,7 @@ def _screen(bench, look):
 
 def _badge(bench, look):
     """Emblem and name plate in the lower left corner."""
-    base = [(0, 452), (30, 436), (190, 436), (228, 474), (228, 520), (0, 520)]
+    base = look.contour.badge
     bench.shadow(polygon(base), 8, 0.6)
     bench.plate(polygon(base), look.base, 5)
     emblems.medallion(bench, 110, 398, 82, look.deep, look.well, look.glow)
