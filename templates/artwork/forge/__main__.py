@@ -8,7 +8,8 @@ import sys
 from multiprocessing import Pool
 from pathlib import Path
 
-from . import appicon, battlefield, cameos, canvas, catalogue, frames, globe, overlays, scenes, symbols, worldmap
+from . import appicon, battlefield, cameos, canvas, catalogue, frames, globe, overlays, scenes, symbols
+from . import worldmap
 
 MAP_COLOURS, ZOOMED_COLOURS = 64, 96
 
@@ -20,7 +21,10 @@ def side_maps(coast, out):
 
 
 def zoomed_map(coast, out):
-    canvas.save(worldmap.paint(globe.Globe(coast, canvas.ZOOM), "com", ZOOMED_COLOURS), out / "Templates/com_worldmap2x.png")
+    canvas.save(
+        worldmap.paint(globe.Globe(coast, canvas.ZOOM), "com", ZOOMED_COLOURS),
+        out / "Templates/com_worldmap2x.png",
+    )
 
 
 def side_overlay(side, count, out):
@@ -59,10 +63,14 @@ def jobs(coast, out, icon_path):
     """Every piece of work as (part, function, arguments), the long ones first."""
     return [
         *[("samples", one_sample, (name, out)) for name in scenes.SAMPLES],
-        ("maps", zoomed_map, (coast, out)), ("maps", side_maps, (coast, out)),
+        ("maps", zoomed_map, (coast, out)),
+        ("maps", side_maps, (coast, out)),
         *[("overlays", side_overlay, (side, count, out)) for side in canvas.SIDES for count in (2, 3)],
         *[("cameos", one_cameo, (number, out)) for number in range(len(cameos.CAMEOS))],
-        ("symbols", all_symbols, (out,)), ("frames", target_frames, (out,)), ("texts", texts, (out,)), ("icon", icon, (icon_path,)),
+        ("symbols", all_symbols, (out,)),
+        ("frames", target_frames, (out,)),
+        ("texts", texts, (out,)),
+        ("icon", icon, (icon_path,)),
     ]
 
 

@@ -90,7 +90,9 @@ def _floor(scene):
             long_waves = F(0.035) * np.sin(x * F(3.1) + np.sin(y * F(2.3)))
             return z - long_waves - F(0.03) * np.sin(y * F(4.1) + x * F(1.7))
         return Solid(height, colour, 0.9)
-    return Solid(lambda p: p[..., 2], colour, 0.0, pattern=lambda p: 1 + rough * 0.5 * _grain(p[..., 0], p[..., 1]))
+    return Solid(
+        lambda p: p[..., 2], colour, 0.0, pattern=lambda p: 1 + rough * 0.5 * _grain(p[..., 0], p[..., 1])
+    )
 
 
 def _backdrop(scene, size):

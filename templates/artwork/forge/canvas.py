@@ -51,7 +51,9 @@ def with_palette(picture):
     colours, indices = np.unique(pixels.reshape(-1, 3) @ (65536, 256, 1), return_inverse=True)
     if len(colours) > 256:
         return picture
-    order = np.argsort([299 * (c >> 16) + 587 * (c >> 8 & 255) + 114 * (c & 255) for c in colours], kind="stable")
+    order = np.argsort(
+        [299 * (c >> 16) + 587 * (c >> 8 & 255) + 114 * (c & 255) for c in colours], kind="stable"
+    )
     rank = np.argsort(order).astype(np.uint8)
     result = Image.fromarray(rank[indices].reshape(pixels.shape[:2]), "P")
     result.putpalette(b"".join(int(c).to_bytes(3, "big") for c in colours[order]))

@@ -44,7 +44,9 @@ class Effects:
         self.picture += np.exp(-d * 1.4)[..., None] * np.array([80, 40, 8])
         for _ in range(14):
             a, far = self.random.uniform(0, 6.28), self.random.uniform(0.9, 2.0) * size
-            inner, outer = (0.7 * far * np.cos(a), 0.7 * far * np.sin(a) - 4), (far * np.cos(a), far * np.sin(a) - 6)
+            inner, outer = (
+                0.7 * far * np.cos(a), 0.7 * far * np.sin(a) - 4
+            ), (far * np.cos(a), far * np.sin(a) - 6)
             self.tracer([(sx + inner[0], sy + inner[1]), (sx + outer[0], sy + outer[1])], 0.8)
 
     def flash(self, at, towards, size=11.0):
@@ -54,7 +56,9 @@ class Effects:
         along = (self.x - at[0]) * way[0] + (self.y - at[1]) * way[1]
         off = np.abs((self.x - at[0]) * -way[1] + (self.y - at[1]) * way[0])
         tongue = 1 - np.maximum(along / size, -along / (size * 0.25)) - off / (size * 0.3)
-        self.picture += np.exp(-np.hypot(along - size * 0.3, off) / size * 1.6)[..., None] * np.array([90, 56, 16])
+        self.picture += np.exp(
+            -np.hypot(along - size * 0.3, off) / size * 1.6
+        )[..., None] * np.array([90, 56, 16])
         self._lay((255, 176, 52), np.clip(tongue * 4, 0, 1))
         self._lay((255, 248, 214), np.clip((tongue - 0.3) * 5, 0, 1))
 

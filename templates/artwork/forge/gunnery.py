@@ -126,7 +126,9 @@ def _refuse_blocked(path, shot, bodies, land_height):
     if (p[:, 2] < land_height(p[:, 0].astype(F), p[:, 1].astype(F))).any():
         raise ValueError(f"{shot.shooter} fires into the ground before {shot.target}")
     for name, body in bodies.items():
-        if name in (shot.shooter, shot.target) or np.hypot(*(p - body.at)[:, :2].T).min() > 12 * body.piece.scale:
+        if name in (
+            shot.shooter, shot.target
+        ) or np.hypot(*(p - body.at)[:, :2].T).min() > 12 * body.piece.scale:
             continue
         if body.distance(p).min() < 0.05:
             raise ValueError(f"{shot.shooter} hits {name} instead of {shot.target}")

@@ -81,12 +81,13 @@ class Bench:
         gy, gx = np.gradient(height, 1 / FINER)
         size = np.sqrt(gx * gx + gy * gy + 1)
         facing = (-gx * LAMP[0] - gy * LAMP[1] + LAMP[2]) / size
-        grain = self._grain(depth.shape, paint)
+        worn = paint.bare and not dome  # what is as small as a rivet keeps its paint
+        grain = self._grain(depth.shape, worn)
         down = np.linspace(1.12, 0.86, depth.shape[0])[:, None]
         tone = (0.42 + 1.05 * np.clip(facing, 0, 1)) * (1 + paint.brushed * grain) * down
         gleam = np.clip(facing, 0, 1) ** 14 * paint.gloss * 210 * (size > 1.05)
         colour = np.array(hexrgb(paint.colour), np.float32)
-        if paint.bare:
+        if worn:
             colour = colour + (np.array(hexrgb(paint.bare), np.float32) - colour) * self._wear(depth)[..., None]
         return colour * tone[..., None] + gleam[..., None]
 
@@ -94,9 +95,9 @@ class Bench:
         noise = ndimage.gaussian_filter(self.random.standard_normal(shape).astype(np.float32), reach)
         return noise / (noise.std() + F_TINY)
 
-    def _grain(self, shape, paint):
+    def _grain(self, shape, painted):
         """Strokes of the brush on bare metal; paint lies in soft clouds and fine grit instead."""
-        if paint.bare:
+        if painted:
             return 0.8 * self._noise(shape, FINER * 7) + 0.45 * self._noise(shape, FINER * 0.4)
         grain = self.random.standard_normal(shape).astype(np.float32)
         grain = ndimage.uniform_filter1d(grain, 17 * FINER, axis=1)

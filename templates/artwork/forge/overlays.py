@@ -35,19 +35,20 @@ class Look:
 
 LOOKS = {
     "all": Look(
-        contours.Cut, gauges.Bars, Paint("566c84", 0.05, 0.4), Paint("34465a", 0.05, 0.3), Paint("a4b4c4", 0.04, 0.6),
-        Paint("1c2a3a", 0.04, 0.1), Paint("244a78", 0.03, 0.3), "7cd8ff", "d8ecfa", "1a4058", emblems.beacon,
-        "ALLIED THEATRE COMMAND", "ALLIED",
+        contours.Cut, gauges.Bars, Paint("566c84", 0.05, 0.4), Paint("34465a", 0.05, 0.3),
+        Paint("a4b4c4", 0.04, 0.6), Paint("1c2a3a", 0.04, 0.1), Paint("244a78", 0.03, 0.3), "7cd8ff",
+        "d8ecfa", "1a4058", emblems.beacon, "ALLIED THEATRE COMMAND", "ALLIED",
     ),
     "sov": Look(
-        contours.Stepped, gauges.Dials, Paint("7c2a20", 0.045, 0.4, "a89a8c"), Paint("47423e", 0.05, 0.35, "8c8680"),
-        Paint("b08040", 0.03, 0.5), Paint("241412", 0.03, 0.1), Paint("7c1c14", 0.04, 0.3), "ffa030", "f8dcb0", "4e2c06",
-        emblems.foundry, "SOVIET FRONT DIRECTORATE", "SOVIET",
+        contours.Stepped, gauges.Dials, Paint("7c2a20", 0.045, 0.4, "a89a8c"),
+        Paint("47423e", 0.05, 0.35, "8c8680"), Paint("b08040", 0.03, 0.5), Paint("241412", 0.03, 0.1),
+        Paint("7c1c14", 0.04, 0.3), "ffa030", "f8dcb0", "4e2c06", emblems.foundry, "SOVIET FRONT DIRECTORATE",
+        "SOVIET",
     ),
     "psy": Look(
         contours.Flowing, gauges.Waves, Paint("5a3e78", 0.03, 0.5), Paint("3a2850", 0.035, 0.4),
-        Paint("b094c4", 0.03, 0.6), Paint("1c1028", 0.03, 0.1), Paint("48206c", 0.03, 0.4), "a4ff60", "ecdcff", "40185c",
-        emblems.watcher, "YURI OBSERVATORY", "YURI",
+        Paint("b094c4", 0.03, 0.6), Paint("1c1028", 0.03, 0.1), Paint("48206c", 0.03, 0.4), "a4ff60",
+        "ecdcff", "40185c", emblems.watcher, "YURI OBSERVATORY", "YURI",
     ),
 }
 
@@ -74,7 +75,9 @@ def _studs(bench, look, places):
             bench.plate(circle(x, y, 2.6), look.trim, 2, outline=True)
             bench.glow(circle(x, y, 1.1), look.glow, 2, 0.4)
     else:
-        bench.rivets(places, look.trim if look.corner == "step" else look.base, 2.6 if look.corner == "step" else 2.0)
+        bench.rivets(
+            places, look.trim if look.corner == "step" else look.base, 2.6 if look.corner == "step" else 2.0
+        )
 
 
 def _surround(bench, look):
@@ -123,7 +126,12 @@ def _tower(bench, look, count):
     centre = (xs[0] + xs[-1] + ICON[0]) // 2
     bench.text("SPECIAL UNITS", centre, 366, look.ink, spacing=2)
     for s in (-1, 1):
-        bench.glow(line([(centre + s * 66, 369.5), (centre + s * ((right - left) // 2 - 16), 369.5)], 1.4), look.glow, 3, 0.4)
+        bench.glow(
+            line([(centre + s * 66, 369.5), (centre + s * ((right - left) // 2 - 16), 369.5)], 1.4),
+            look.glow,
+            3,
+            0.4,
+        )
     y = 380 + ICON[1] + 14
     for number, x in enumerate(xs, 1):
         bench.plate(outline(x + 18, y - 6, ICON[0] - 36, 12, 3, look.corner), look.well, 2, sunken=True)
@@ -134,7 +142,13 @@ def _tower(bench, look, count):
 def _slot(bench, look, x, y, number):
     w, h = ICON
     bench.plate(outline(x - 5, y - 5, w + 10, h + 10, 4, look.corner), look.trim, 2.5)
-    bench.plate(lambda c: c.rectangle(x - 2, y - 2, w + 4, h + 4) or c.fill(), Paint("0c0e10"), 2, sunken=True, outline=False)
+    bench.plate(
+        lambda c: c.rectangle(x - 2, y - 2, w + 4, h + 4) or c.fill(),
+        Paint("0c0e10"),
+        2,
+        sunken=True,
+        outline=False,
+    )
     _dark_glass(bench, look, x, y, w, h, 6)
     bench.text(str(number), x + w // 2 + 1, y + 18, look.glow, spacing=1)
     bench.text("EMPTY", x + w // 2, y + 33, look.ink, font=pixelfont.TINY, spacing=2)
@@ -156,7 +170,18 @@ def _dark_glass(bench, look, x, y, w, h, hatch):
 def _corners(bench, look, x, y, w, h, reach):
     for sx, px in ((1, x), (-1, x + w)):
         for sy, py in ((1, y), (-1, y + h)):
-            bench.fill(line([(px + sx * reach, py + 0.5 * sy), (px + 0.5 * sx, py + 0.5 * sy), (px + 0.5 * sx, py + sy * reach)], 1), look.glow, 0.8)
+            bench.fill(
+                line(
+                    [
+                        (px + sx * reach, py + 0.5 * sy),
+                        (px + 0.5 * sx, py + 0.5 * sy),
+                        (px + 0.5 * sx, py + sy * reach),
+                    ],
+                    1,
+                ),
+                look.glow,
+                0.8,
+            )
 
 
 def _screen(bench, look):
@@ -165,11 +190,19 @@ def _screen(bench, look):
     bench.shadow(outline(x - 14, y - 12, w + 26, h + 24, 12, look.corner), 8, 0.6)
     bench.plate(polygon(look.contour.tab), look.deep, 3)
     # Behind the monitor's corners: no gap between it and its neighbours lets the map show.
-    for left, top, width, height in ((x + w, y - 11, 11, 12), (x + w, y + h - 12, 11, 19), (x - 14, y + h - 12, 13, 19)):
+    for left, top, width, height in (
+        (x + w, y - 11, 11, 12), (x + w, y + h - 12, 11, 19), (x - 14, y + h - 12, 13, 19)
+    ):
         bench.plate(lambda c: c.rectangle(left, top, width, height) or c.fill(), look.deep, 1, outline=False)
     bench.plate(outline(x - 14, y - 14, w + 28, h + 26, 12, look.corner), look.base, 5)
     bench.plate(outline(x - 6, y - 6, w + 12, h + 12, 5, look.corner), look.trim, 3)
-    bench.plate(lambda c: c.rectangle(x - 2, y - 2, w + 4, h + 4) or c.fill(), Paint("0c0e10"), 2, sunken=True, outline=False)
+    bench.plate(
+        lambda c: c.rectangle(x - 2, y - 2, w + 4, h + 4) or c.fill(),
+        Paint("0c0e10"),
+        2,
+        sunken=True,
+        outline=False,
+    )
     bench.text("BATTLEFIELD", 716, 243, look.ink, spacing=2)
     bench.glow(circle(664, 246, 2.2), look.glow, 3, 0.6)
     bench.glow(circle(768, 246, 2.2), look.glow, 3, 0.6)
@@ -180,7 +213,14 @@ def _screen(bench, look):
     bench.rgb[y : y + h, x : x + w] += (noise / noise.std() * 2.2)[..., None]
     bench.text("NO SIGNAL", middle[0], middle[1] + 36, look.ink, spacing=3)
     _corners(bench, look, x + 8, y + 8, w - 16, h - 16, 16)
-    _studs(bench, look, [(x - 9.5, y + h - 30), (x - 9.5, y + h - 6), (x + w + 9.5, y + 2), (x + w + 9.5, y + h - 6), (x + w + 9.5, y + h // 2), (x + w // 2, y + h + 9)])
+    _studs(
+        bench,
+        look,
+        [
+            (x - 9.5, y + h - 30), (x - 9.5, y + h - 6), (x + w + 9.5, y + 2), (x + w + 9.5, y + h - 6),
+            (x + w + 9.5, y + h // 2), (x + w // 2, y + h + 9),
+        ],
+    )
 
 
 def _badge(bench, look):

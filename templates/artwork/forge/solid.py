@@ -175,7 +175,9 @@ def place(solids, offset=(0, 0, 0), matrix=None, scale=1.0):
     def carry(pattern):
         if pattern is None:
             return None
-        return lambda p: pattern(((p - at) / F(scale)) @ matrix if matrix is not None else (p - at) / F(scale))
+        return lambda p: pattern(
+            ((p - at) / F(scale)) @ matrix if matrix is not None else (p - at) / F(scale)
+        )
 
     def train(muzzle):
         return muzzle and (spin @ muzzle[0] * F(scale) + at, spin @ muzzle[1])

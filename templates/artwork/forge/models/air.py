@@ -2,7 +2,8 @@
 
 from ..solid import Solid, ball, both, box, join, less, place, rod, slab, turn
 from .parts import (
-    ACCENT, ARMOUR, ARMOUR_DARK, GLASS, HOT, NAVY, ROOF, STEEL, STEEL_DARK, WHITE, barrel, blotches, seams, stripes
+    ACCENT, ARMOUR, ARMOUR_DARK, GLASS, HOT, NAVY, ROOF, STEEL, STEEL_DARK, WHITE, barrel, blotches, seams,
+    stripes,
 )
 
 

@@ -75,12 +75,27 @@ def bridge(span=20.0, ramp=4.5):
     end, foot, half = span / 2, span / 2 + ramp, BRIDGE_ROAD / 2
     top = [(-foot, -0.02), (-end, BRIDGE_DECK), (end, BRIDGE_DECK), (foot, -0.02)]
     under = [(end + 0.2, BRIDGE_DECK - 0.5), (-end - 0.2, BRIDGE_DECK - 0.5)]
-    ramps = [slab([(s * (end - 0.3), -1.5), (s * (end - 0.3), BRIDGE_DECK - 0.06), (s * foot, -0.1), (s * foot, -1.5)],
-                  -half - 0.45, half + 0.45, edge=0.05) for s in (1, -1)]
+    ramps = [
+        slab(
+            [
+                (s * (end - 0.3), -1.5),
+                (s * (end - 0.3), BRIDGE_DECK - 0.06),
+                (s * foot, -0.1),
+                (s * foot, -1.5),
+            ],
+            -half - 0.45,
+            half + 0.45,
+            edge=0.05,
+        )
+        for s in (1, -1)
+    ]
     kerb = both(slab([*top, *[(x, z + 0.22) for x, z in reversed(top)]], half, half + 0.3, edge=0.02))
     places = np.linspace(-end + 0.4, end - 0.4, 14)
     posts = [box((x, half + 0.15, BRIDGE_DECK + 0.45), (0.16, 0.14, 0.6), 0.02) for x in places]
-    rails = [rod((-end, half + 0.15, BRIDGE_DECK + z), (end, half + 0.15, BRIDGE_DECK + z), 0.055) for z in (0.45, 0.75)]
+    rails = [
+        rod((-end, half + 0.15, BRIDGE_DECK + z), (end, half + 0.15, BRIDGE_DECK + z), 0.055)
+        for z in (0.45, 0.75)
+    ]
     piers = join(*[box((x, 0, -1.2), (1.1, BRIDGE_ROAD + 0.5, 3.0), 0.18) for x in (-end / 2, 0, end / 2)])
     caps = join(*[box((x, 0, 0.12), (1.6, BRIDGE_ROAD + 0.9, 0.3), 0.05) for x in (-end / 2, 0, end / 2)])
     heads = both(join(*[box((s * end, half + 0.35, 0.35), (0.8, 0.6, 2.2), 0.06) for s in (1, -1)]))
