@@ -88,7 +88,8 @@ class Bench:
         gleam = np.clip(facing, 0, 1) ** 14 * paint.gloss * 210 * (size > 1.05)
         colour = np.array(hexrgb(paint.colour), np.float32)
         if worn:
-            colour = colour + (np.array(hexrgb(paint.bare), np.float32) - colour) * self._wear(depth)[..., None]
+            steel = np.array(hexrgb(paint.bare), np.float32)
+            colour = colour + (steel - colour) * self._wear(depth)[..., None]
         return colour * tone[..., None] + gleam[..., None]
 
     def _noise(self, shape, reach):
