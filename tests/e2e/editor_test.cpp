@@ -119,6 +119,7 @@ TEST_F(FailingSystemTest, FilesThatCannotBeWrittenAreTold) {
       editor.Click(options, IDOK);
       editor.Answer("Error", isSprite ? "SHP file open error!" : "Palette file create error!",
                     IDOK);
+      WaitUntil("the options to close", [options] { return !IsWindow(options); });
       EXPECT_EQ(ReadContent(good).size(), isSprite ? 0 : 416032);
       Lose("good.shp");
     }
