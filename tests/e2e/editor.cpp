@@ -184,6 +184,18 @@ void Editor::SaveAs(const std::string& path) const {
   Close(dialog, IDOK);
 }
 
+HWND Editor::BeginExport(const std::string& shp, const std::string& pal) const {
+  Command(IDM_SAVE_AS_SHP);
+  SaveAs(shp);
+  const HWND options = Dialog("SHP save options");
+  EXPECT_FALSE(IsEnabled(options, IDOK)) << "before the palette has a name";
+  Click(options, IDC_SHP_BROWSE);
+  WaitUntil("the palette's Save dialog", [&] { return !IsWindowEnabled(options); });
+  SaveAs(pal);
+  WaitUntil("the chosen name", [&] { return Text(options, IDC_SHP_NAME) == pal; });
+  return options;
+}
+
 void Editor::OpenPicture(const std::string& path) const {
   const HWND dialog = Dialog("Choose file to open");
   EXPECT_EQ(State().hwndFocus, FindChild(dialog, "Edit")) << "what is typed is the name";

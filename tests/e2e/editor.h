@@ -44,6 +44,8 @@ class Editor {
   void Answer(const std::string& caption, const std::string& text, int button) const;
   // Saves under the path in the system's dialog.
   void SaveAs(const std::string& path) const;
+  // Goes through the export's dialogs up to its OK button, in the options, which it gives.
+  HWND BeginExport(const std::string& shp, const std::string& pal) const;
   // Picks the picture, which is alone beside a folder, in the list of the Open dialog.
   void OpenPicture(const std::string& path) const;
 
