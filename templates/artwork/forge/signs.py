@@ -37,6 +37,15 @@ def _stroke(c, width, *points):
     c.stroke()
 
 
+def _spikes(c, x, y, outer, inner, count):
+    """A star of so many points, the first of them upwards."""
+    points = []
+    for i in range(2 * count):
+        r = inner if i % 2 else outer
+        points.append((x + r * math.sin(math.pi * i / count), y - r * math.cos(math.pi * i / count)))
+    _poly(c, *points)
+
+
 def arrow(c):
     _poly(c, (12, 0), (21.5, 11), (15.5, 11), (15.5, 24), (8.5, 24), (8.5, 11), (2.5, 11))
 
@@ -176,11 +185,7 @@ def bridge(c):
 
 
 def star(c):
-    points = []
-    for i in range(10):
-        r = 12.6 if i % 2 == 0 else 5.2
-        points.append((12 + r * math.sin(math.pi * i / 5), 13 - r * math.cos(math.pi * i / 5)))
-    _poly(c, *points)
+    _spikes(c, 12, 13, 12.6, 5.2, 5)
 
 
 def flag(c):
@@ -214,11 +219,7 @@ def explosion(c):
 
 
 def star_inner(c):
-    points = []
-    for i in range(10):
-        r = 5.6 if i % 2 == 0 else 2.3
-        points.append((12 + r * math.sin(math.pi * i / 5), 13 - r * math.cos(math.pi * i / 5)))
-    _poly(c, *points)
+    _spikes(c, 12, 13, 5.6, 2.3, 5)
 
 
 def flag_inner(c):
@@ -234,11 +235,7 @@ def flag_inner(c):
 
 
 def explosion_inner(c):
-    points = []
-    for i in range(14):
-        r = 5.8 if i % 2 == 0 else 3
-        points.append((12 + r * math.sin(math.pi * i / 7), 12 - r * math.cos(math.pi * i / 7)))
-    _poly(c, *points)
+    _spikes(c, 12, 12, 5.8, 3, 7)
 
 
 def question(c):
