@@ -70,7 +70,7 @@ class CompositionTest : public EditorFixture {
   // Between the box's left columns and the frame's, above its top or below its bottom row.
   static bool OnFan(int32_t x, int32_t y) {
     if (x < doc.targetBoxX || x > 350) return false;
-    const auto [first, last] = std::minmax(doc.targetBoxY + doc.smallTargetBox.height, 337);
+    const auto [first, last] = std::minmax({doc.targetBoxY + doc.smallTargetBox.height, 337});
     return (y >= 52 && y <= doc.targetBoxY) || (y >= first && y <= last);
   }
 
