@@ -42,7 +42,6 @@
 // Window messages
 #define WM_CREATE 1
 #define WM_DESTROY 2
-#define WM_MOVE 3
 #define WM_SIZE 5
 #define WM_ACTIVATE 6
 #define WM_SETFOCUS 7
@@ -75,7 +74,6 @@
 #define WM_MOUSEMOVE 0x0200
 #define WM_LBUTTONDOWN 0x0201
 #define WM_LBUTTONUP 0x0202
-#define WM_LBUTTONDBLCLK 0x0203
 #define WM_RBUTTONDOWN 0x0204
 #define WM_RBUTTONUP 0x0205
 #define WM_CAPTURECHANGED 0x0215
@@ -109,7 +107,6 @@
 #define WS_MAXIMIZEBOX 0x00010000
 #define WS_OVERLAPPEDWINDOW 0x00CF0000
 #define WS_EX_DLGMODALFRAME 1
-#define WS_EX_NOPARENTNOTIFY 4
 #define WS_EX_WINDOWEDGE 0x0100
 #define WS_EX_CLIENTEDGE 0x0200
 #define WS_EX_CONTROLPARENT 0x00010000
@@ -157,7 +154,6 @@
 #define SB_THUMBPOSITION 4
 #define SB_THUMBTRACK 5
 #define SB_LEFT 6
-#define SB_BOTTOM 7
 #define SB_RIGHT 7
 #define SB_ENDSCROLL 8
 
@@ -180,8 +176,6 @@
 #define MB_ICONERROR 0x10
 #define MB_ICONQUESTION 0x20
 #define MB_ICONEXCLAMATION 0x30
-#define MB_ICONMASK 0xF0
-#define MB_TYPEMASK 0x0F
 #define IDOK 1
 #define IDCANCEL 2
 #define IDYES 6
@@ -249,10 +243,7 @@
 #define EM_GETSEL 0xB0
 #define EM_SETSEL 0xB1
 #define EM_LIMITTEXT 0xC5
-#define EN_SETFOCUS 0x0100
-#define EN_KILLFOCUS 0x0200
 #define EN_CHANGE 0x0300
-#define EN_UPDATE 0x0400
 
 // Static controls
 #define SS_LEFT 0
@@ -279,8 +270,6 @@
 #define LB_GETITEMDATA 0x0199
 #define LB_SETITEMDATA 0x019A
 #define LBN_SELCHANGE 1
-#define LBN_SETFOCUS 4
-#define LBN_KILLFOCUS 5
 #define LB_ERR (-1)
 
 // Combo boxes
@@ -296,8 +285,6 @@
 #define CB_GETITEMDATA 0x0150
 #define CB_SETITEMDATA 0x0151
 #define CBN_SELCHANGE 1
-#define CBN_SETFOCUS 3
-#define CBN_KILLFOCUS 4
 #define CB_ERR (-1)
 
 // Status bars
@@ -306,7 +293,6 @@
 #define SB_SETTEXTA 0x0401
 #define SB_GETTEXTA 0x0402
 #define SB_SETPARTS 0x0404
-#define SB_GETPARTS 0x0406
 
 // Trackbars
 #define TBS_BOTH 8
@@ -316,9 +302,6 @@
 #define TBM_GETRANGEMAX 0x0402
 #define TBM_SETPOS 0x0405
 #define TBM_SETRANGE 0x0406
-#define TB_LINEUP 0
-#define TB_LINEDOWN 1
-#define TB_ENDTRACK 8
 
 // Up-down controls
 #define UDS_SETBUDDYINT 2
@@ -326,7 +309,6 @@
 #define UDS_ARROWKEYS 0x20
 #define UDS_NOTHOUSANDS 0x80
 #define UDM_SETRANGE 0x0465
-#define UDM_GETRANGE 0x0466
 
 // Progress bars
 #define PBM_SETRANGE 0x0401
@@ -371,7 +353,6 @@
 #define DT_CENTER 1
 #define DT_VCENTER 4
 #define DT_SINGLELINE 0x20
-#define FW_NORMAL 400
 #define FW_BOLD 700
 #define ANSI_CHARSET 0
 #define DEFAULT_CHARSET 1
@@ -379,7 +360,6 @@
 #define CLIP_DEFAULT_PRECIS 0
 #define DEFAULT_QUALITY 0
 #define VARIABLE_PITCH 2
-#define LF_FACESIZE 32
 
 // Files and errors
 #define MAX_PATH 260

@@ -42,19 +42,16 @@ HFONT MakeFont(const DialogTemplate& dialog) {
   if (!(dialog.style & DS_SETFONT)) return nullptr;
   LOGFONTA font{};
   font.lfHeight = -Rounded(dialog.fontSize, 96, 72);
-  font.lfWeight = FW_NORMAL;
-  font.lfCharSet = DEFAULT_CHARSET;
-  dialog.fontName.copy(font.lfFaceName, LF_FACESIZE - 1);
   return CreateFontIndirectA(&font);
 }
 
 void CreateControls(const DialogTemplate& dialog, Window& window) {
   for (const ControlTemplate& control : dialog.controls) {
     const HWND made = CreateWindowExA(
-        control.exStyle | WS_EX_NOPARENTNOTIFY, control.className.c_str(), control.text.c_str(),
-        control.style, PixelsX(control.x), PixelsY(control.y), PixelsX(control.width),
-        PixelsY(control.height), window.handle,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(control.id)), window.instance, nullptr);
+        control.exStyle, control.className.c_str(), control.text.c_str(), control.style,
+        PixelsX(control.x), PixelsY(control.y), PixelsX(control.width), PixelsY(control.height),
+        window.handle, reinterpret_cast<HMENU>(static_cast<INT_PTR>(control.id)), window.instance,
+        nullptr);
     if (window.dialog->font)
       SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(window.dialog->font), FALSE);
     const LRESULT code = SendMessageA(made, WM_GETDLGCODE, 0, 0);
@@ -82,7 +79,6 @@ DialogTemplate SystemDialog(const char* caption, int width, int height) {
   dialog.width = width;
   dialog.height = height;
   dialog.fontSize = 8;
-  dialog.fontName = "MS Shell Dlg";
   return dialog;
 }
 

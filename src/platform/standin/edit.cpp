@@ -12,7 +12,6 @@ class Edit : public Control {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void TellChange() const;
   LRESULT SetText(const char* text);
   void Select(size_t start, size_t end);
   void Replace(std::string text);
@@ -26,17 +25,12 @@ class Edit : public Control {
   size_t end_ = 0;    // where the caret stands
 };
 
-void Edit::TellChange() const {
-  Tell(EN_UPDATE);
-  Tell(EN_CHANGE);
-}
-
 // Setting the text is not held to the limit, and only a single line tells its parent.
 LRESULT Edit::SetText(const char* text) {
   window_.text = text ? text : "";
   Select(0, 0);
   Repaint();
-  if (!Has(ES_MULTILINE)) TellChange();
+  if (!Has(ES_MULTILINE)) Tell(EN_CHANGE);
   return TRUE;
 }
 
@@ -53,7 +47,7 @@ void Edit::Replace(std::string text) {
   window_.text.replace(start_, end_ - start_, text);
   Select(start_ + text.size(), start_ + text.size());
   Repaint();
-  TellChange();
+  Tell(EN_CHANGE);
 }
 
 // Deletes the selection, or without one the character before or behind the caret.
@@ -118,12 +112,6 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_LBUTTONDOWN:
       SetFocus(window_.handle);
-      return 0;
-    case WM_SETFOCUS:
-      Tell(EN_SETFOCUS);
-      return 0;
-    case WM_KILLFOCUS:
-      Tell(EN_KILLFOCUS);
       return 0;
     default:
       return Control::Handle(message, wParam, lParam);

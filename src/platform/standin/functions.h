@@ -125,8 +125,6 @@ int WINAPI GetObjectA(HANDLE object, int size, LPVOID buffer);
 HBITMAP WINAPI CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits,
                                 HANDLE section, DWORD offset);
 HBITMAP WINAPI CreateCompatibleBitmap(HDC dc, int width, int height);
-int WINAPI GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info,
-                     UINT usage);
 BOOL WINAPI BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX,
                    int sourceY, DWORD operation);
 BOOL WINAPI StretchBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX,

@@ -41,16 +41,14 @@ struct GdiObject {
 };
 
 struct Bitmap : GdiObject {
-  Bitmap(int width, int height, bool bottomUp, bool isSection)
-      : pixels(width, height, bottomUp), section(isSection) {}
+  Bitmap(int width, int height, bool bottomUp) : pixels(width, height, bottomUp) {}
   Pixels pixels;
-  const bool section;
   bool selected = false;  // a bitmap stands in one device context at a time
 };
 
 struct Font : GdiObject {
-  explicit Font(const LOGFONTA& font) : description(font) {}
-  const LOGFONTA description;
+  explicit Font(int givenHeight) : height(givenHeight) {}
+  const int height;  // all that can be seen of a font here
 };
 
 // A device context: of a window, of the screen (no window, no bitmap), or of memory.

@@ -110,24 +110,6 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
   return 1;
 }
 
-int GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info,
-              UINT usage) {
-  const BITMAPINFOHEADER& header = info->bmiHeader;
-  const auto found = FindGdi<Bitmap>(bitmap);
-  if (!FindDC(dc) || !found) return 0;
-  Pixels& pixels = found->pixels;
-  if (!bits || start || usage != DIB_RGB_COLORS || header.biBitCount != 32 ||
-      header.biCompression != BI_RGB || header.biWidth != pixels.Width() ||
-      std::abs(header.biHeight) != pixels.Height() || lines < static_cast<UINT>(pixels.Height()))
-    Unsupported("GetDIBits gives whole pictures of 32 bits only");
-  auto* out = static_cast<uint32_t*>(bits);
-  for (int row = 0; row < pixels.Height(); ++row) {
-    const int y = header.biHeight < 0 ? row : pixels.Height() - 1 - row;
-    for (int x = 0; x < pixels.Width(); ++x) *out++ = pixels.At(x, y);
-  }
-  return pixels.Height();
-}
-
 COLORREF SetTextColor(HDC dc, COLORREF colour) {
   const auto context = FindDC(dc);
   return context ? std::exchange(context->textColour, colour) : CLR_INVALID;
@@ -147,7 +129,7 @@ int DrawTextA(HDC dc, LPCSTR text, int, LPRECT rect, UINT format) {
   Pixels* target = context ? TargetOf(*context) : nullptr;
   if (!target) return 0;
   if (context->backgroundMode != TRANSPARENT) Unsupported("DrawTextA paints no background");
-  const int height = std::max(4, std::abs(context->font->description.lfHeight));
+  const int height = std::max(4, std::abs(context->font->height));
   const int cell = height / 2;
   LONG x = rect->left;
   LONG y = rect->top;

@@ -28,12 +28,12 @@ HGDIOBJ AddStock(const std::shared_ptr<GdiObject>& object) {
 
 // What a fresh memory device context holds: a bitmap of one pixel and the system font.
 HGDIOBJ StockFont() {
-  static const HGDIOBJ font = AddStock(std::make_shared<Font>(LOGFONTA{}));
+  static const HGDIOBJ font = AddStock(std::make_shared<Font>(0));
   return font;
 }
 
 HGDIOBJ StockBitmap() {
-  static const HGDIOBJ bitmap = AddStock(std::make_shared<Bitmap>(1, 1, false, false));
+  static const HGDIOBJ bitmap = AddStock(std::make_shared<Bitmap>(1, 1, false));
   return bitmap;
 }
 
@@ -48,8 +48,8 @@ bool FitsInMemory(int width, int height) {
   return width > 0 && height > 0 && static_cast<int64_t>(width) * height <= (1LL << 29);
 }
 
-HBITMAP AddBitmap(int width, int height, bool bottomUp, bool section) try {
-  return Objects().Add<HBITMAP>(std::make_shared<Bitmap>(width, height, bottomUp, section));
+HBITMAP AddBitmap(int width, int height, bool bottomUp) try {
+  return Objects().Add<HBITMAP>(std::make_shared<Bitmap>(width, height, bottomUp));
 } catch (const std::bad_alloc&) {
   return nullptr;  // no exception may leave a Win32 call
 }
@@ -137,52 +137,30 @@ HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits
   if (dc && !FindDC(dc)) return nullptr;
   const int height = header.biHeight < 0 ? -header.biHeight : header.biHeight;
   if (!FitsInMemory(header.biWidth, height)) return nullptr;
-  const HBITMAP bitmap = AddBitmap(header.biWidth, height, header.biHeight > 0, true);
+  const HBITMAP bitmap = AddBitmap(header.biWidth, height, header.biHeight > 0);
   if (bitmap) *bits = FindGdi<Bitmap>(bitmap)->pixels.Data();
   return bitmap;
 }
 
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
   if (!FindDC(dc) || !FitsInMemory(width, height)) return nullptr;
-  return AddBitmap(width, height, false, false);
+  return AddBitmap(width, height, false);
 }
 
 HFONT CreateFontIndirectA(const LOGFONTA* font) {
-  return Objects().Add<HFONT>(std::make_shared<Font>(*font));
+  return Objects().Add<HFONT>(std::make_shared<Font>(font->lfHeight));
 }
 
-HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
-                  DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
-                  DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR faceName) {
-  LOGFONTA font{height,
-                width,
-                escapement,
-                orientation,
-                weight,
-                BYTE(italic),
-                BYTE(underline),
-                BYTE(strikeOut),
-                BYTE(charSet),
-                BYTE(outPrecision),
-                BYTE(clipPrecision),
-                BYTE(quality),
-                BYTE(pitchAndFamily),
-                ""};
-  if (faceName) std::strncpy(font.lfFaceName, faceName, LF_FACESIZE - 1);
-  return CreateFontIndirectA(&font);
+HFONT CreateFontA(int height, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                  DWORD, LPCSTR) {
+  return Objects().Add<HFONT>(std::make_shared<Font>(height));
 }
 
 int GetObjectA(HANDLE object, int size, LPVOID buffer) {
-  const auto room = static_cast<size_t>(size);
-  if (const auto font = FindGdi<Font>(object); font && room >= sizeof(LOGFONTA)) {
-    std::memcpy(buffer, &font->description, sizeof(LOGFONTA));
-    return sizeof(LOGFONTA);
-  }
   const auto bitmap = FindGdi<Bitmap>(object);
-  if (!bitmap || room != sizeof(BITMAP)) return 0;
+  if (!bitmap || size != sizeof(BITMAP)) return 0;
   Pixels& pixels = bitmap->pixels;
-  LPVOID const bits = bitmap->section ? pixels.Data() : nullptr;
-  const BITMAP description{0, pixels.Width(), pixels.Height(), pixels.Width() * 4, 1, 32, bits};
+  const BITMAP description{pixels.Width(), pixels.Height(), 32};
   std::memcpy(buffer, &description, sizeof description);
   return sizeof description;
 }

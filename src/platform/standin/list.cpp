@@ -147,12 +147,6 @@ LRESULT List::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONUP:
       Release(lParam);
       return 0;
-    case WM_SETFOCUS:
-      if (combo_ || Has(LBS_NOTIFY)) Tell(combo_ ? CBN_SETFOCUS : LBN_SETFOCUS);
-      return 0;
-    case WM_KILLFOCUS:
-      if (combo_ || Has(LBS_NOTIFY)) Tell(combo_ ? CBN_KILLFOCUS : LBN_KILLFOCUS);
-      return 0;
     default:
       if (forCombo || forBox) return HandleEntry(message, wParam, lParam);
       return Control::Handle(message, wParam, lParam);

@@ -66,7 +66,6 @@ class Trackbar : public RangeControl {
  public:
   using RangeControl::RangeControl;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override {
-    const bool left = wParam == VK_LEFT, right = wParam == VK_RIGHT;
     switch (message) {
       case WM_GETDLGCODE:
         return DLGC_WANTARROWS;
@@ -83,10 +82,7 @@ class Trackbar : public RangeControl {
       case TBM_GETPOS:
         return position_;
       case WM_KEYDOWN:
-        if (left || right) Step(left ? -1 : 1, left ? TB_LINEUP : TB_LINEDOWN);
-        return 0;
-      case WM_KEYUP:
-        if (left || right) Scrolled(TB_ENDTRACK);
+        if (wParam == VK_LEFT || wParam == VK_RIGHT) Step(wParam == VK_LEFT ? -1 : 1);
         return 0;
       default:
         return Control::Handle(message, wParam, lParam);
@@ -95,15 +91,11 @@ class Trackbar : public RangeControl {
 
  private:
   // A thumb at its end stays there and tells nothing.
-  void Step(int distance, int code) {
+  void Step(int distance) {
     const int before = position_;
     MoveTo(position_ + distance);
-    if (position_ != before) Scrolled(code);
-  }
-
-  void Scrolled(int code) const {
-    SendMessageA(window_.parent, WM_HSCROLL, MAKEWPARAM(code, 0),
-                 reinterpret_cast<LPARAM>(window_.handle));
+    if (position_ != before)
+      SendMessageA(window_.parent, WM_HSCROLL, 0, reinterpret_cast<LPARAM>(window_.handle));
   }
 };
 
@@ -119,8 +111,6 @@ class UpDown : public RangeControl {
       case UDM_SETRANGE:
         SetRange(static_cast<SHORT>(HIWORD(lParam)), static_cast<SHORT>(LOWORD(lParam)));
         return 0;
-      case UDM_GETRANGE:
-        return MAKELONG(maximum_, minimum_);
       default:
         return Control::Handle(message, wParam, lParam);
     }

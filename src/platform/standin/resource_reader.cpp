@@ -166,7 +166,7 @@ class Reader {
         Expect("FONT");
         dialog.fontSize = Number();
         Expect(",");
-        dialog.fontName = Text();
+        Text();  // no letters are drawn
         dialog.style |= DS_SETFONT;
       }
     }

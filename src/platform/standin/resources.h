@@ -30,7 +30,6 @@ struct DialogTemplate {
   DWORD style = 0, exStyle = 0;
   int x = 0, y = 0, width = 0, height = 0;
   int fontSize = 0;
-  std::string fontName;
   std::vector<ControlTemplate> controls;
 };
 

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cstring>
 
 #include "platform/standin/control.h"
@@ -21,7 +20,6 @@ class StatusBar : public Control {
 
   void Place() const;
   LRESULT SetParts(size_t count, const int* rights);
-  LRESULT GetParts(size_t count, int* rights) const;
   LRESULT HandleText(UINT message, size_t part, LPARAM text);
 
   std::vector<Part> parts_{{-1, ""}};
@@ -38,11 +36,6 @@ LRESULT StatusBar::SetParts(size_t count, const int* rights) {
   parts_.resize(count);
   for (size_t i = 0; i < count; ++i) parts_[i].right = rights[i];
   return TRUE;
-}
-
-LRESULT StatusBar::GetParts(size_t count, int* rights) const {
-  for (size_t i = 0; i < std::min(count, parts_.size()); ++i) rights[i] = parts_[i].right;
-  return static_cast<LRESULT>(parts_.size());
 }
 
 LRESULT StatusBar::HandleText(UINT message, size_t part, LPARAM text) {
@@ -66,8 +59,6 @@ LRESULT StatusBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case SB_SETPARTS:
       return SetParts(wParam, reinterpret_cast<const int*>(lParam));
-    case SB_GETPARTS:
-      return GetParts(wParam, reinterpret_cast<int*>(lParam));
     case SB_SETTEXTA:
     case SB_GETTEXTA:
       return HandleText(message, wParam, lParam);

@@ -1,5 +1,5 @@
 // The stand-in's Win32 types: the 64-bit forms, LONG, DWORD and UINT 32 bits wide, everything that
-// can hold a pointer 64. Only what the editor and its tests use is here.
+// can hold a pointer 64. Only what the editor and its tests use is here, down to the fields.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,6 @@
 #define WINAPI
 
 typedef void VOID;
-typedef char CHAR;
 typedef unsigned char BYTE;
 typedef unsigned short WORD;
 typedef short SHORT;
@@ -95,8 +94,6 @@ typedef struct tagWNDCLASSEXA {
   UINT cbSize;
   UINT style;
   WNDPROC lpfnWndProc;
-  int cbClsExtra;
-  int cbWndExtra;
   HINSTANCE hInstance;
   HICON hIcon;
   HCURSOR hCursor;
@@ -106,60 +103,28 @@ typedef struct tagWNDCLASSEXA {
   HICON hIconSm;
 } WNDCLASSEXA;
 
-typedef struct tagCREATESTRUCTA {
-  LPVOID lpCreateParams;
-  HINSTANCE hInstance;
-  HMENU hMenu;
-  HWND hwndParent;
-  int cy;
-  int cx;
-  int y;
-  int x;
-  LONG style;
-  LPCSTR lpszName;
-  LPCSTR lpszClass;
-  DWORD dwExStyle;
-} CREATESTRUCTA;
-
 typedef struct tagPAINTSTRUCT {
   HDC hdc;
   BOOL fErase;
   RECT rcPaint;
-  BOOL fRestore;
-  BOOL fIncUpdate;
-  BYTE rgbReserved[32];
 } PAINTSTRUCT, *LPPAINTSTRUCT;
 
 typedef struct tagMINMAXINFO {
-  POINT ptReserved;
   POINT ptMaxSize;
-  POINT ptMaxPosition;
   POINT ptMinTrackSize;
   POINT ptMaxTrackSize;
 } MINMAXINFO;
 
 typedef struct tagNMHDR {
   HWND hwndFrom;
-  UINT_PTR idFrom;
   UINT code;
 } NMHDR;
 
 typedef struct tagBITMAP {
-  LONG bmType;
   LONG bmWidth;
   LONG bmHeight;
-  LONG bmWidthBytes;
-  WORD bmPlanes;
   WORD bmBitsPixel;
-  LPVOID bmBits;
 } BITMAP;
-
-typedef struct tagRGBQUAD {
-  BYTE rgbBlue;
-  BYTE rgbGreen;
-  BYTE rgbRed;
-  BYTE rgbReserved;
-} RGBQUAD;
 
 typedef struct tagBITMAPINFOHEADER {
   DWORD biSize;
@@ -169,32 +134,15 @@ typedef struct tagBITMAPINFOHEADER {
   WORD biBitCount;
   DWORD biCompression;
   DWORD biSizeImage;
-  LONG biXPelsPerMeter;
-  LONG biYPelsPerMeter;
-  DWORD biClrUsed;
-  DWORD biClrImportant;
 } BITMAPINFOHEADER;
 
 typedef struct tagBITMAPINFO {
   BITMAPINFOHEADER bmiHeader;
-  RGBQUAD bmiColors[1];
-} BITMAPINFO, *LPBITMAPINFO;
+} BITMAPINFO;
 
 typedef struct tagLOGFONTA {
   LONG lfHeight;
-  LONG lfWidth;
-  LONG lfEscapement;
-  LONG lfOrientation;
-  LONG lfWeight;
-  BYTE lfItalic;
-  BYTE lfUnderline;
-  BYTE lfStrikeOut;
   BYTE lfCharSet;
-  BYTE lfOutPrecision;
-  BYTE lfClipPrecision;
-  BYTE lfQuality;
-  BYTE lfPitchAndFamily;
-  CHAR lfFaceName[32];
 } LOGFONTA;
 
 typedef struct _SECURITY_ATTRIBUTES* LPSECURITY_ATTRIBUTES;
@@ -205,37 +153,22 @@ typedef struct tagOFNA {
   HWND hwndOwner;
   HINSTANCE hInstance;
   LPCSTR lpstrFilter;
-  LPSTR lpstrCustomFilter;
-  DWORD nMaxCustFilter;
-  DWORD nFilterIndex;
   LPSTR lpstrFile;
   DWORD nMaxFile;
-  LPSTR lpstrFileTitle;
-  DWORD nMaxFileTitle;
   LPCSTR lpstrInitialDir;
   LPCSTR lpstrTitle;
   DWORD Flags;
-  WORD nFileOffset;
-  WORD nFileExtension;
   LPCSTR lpstrDefExt;
   LPARAM lCustData;
   LPOFNHOOKPROC lpfnHook;
   LPCSTR lpTemplateName;
-  void* pvReserved;
-  DWORD dwReserved;
-  DWORD FlagsEx;
 } OPENFILENAMEA, *LPOPENFILENAMEA;
 
 typedef struct _OFNOTIFYA {
   NMHDR hdr;
-  LPOPENFILENAMEA lpOFN;
-  LPSTR pszFile;
 } OFNOTIFYA;
 
 typedef struct tagLVITEMA {
-  UINT mask;
-  int iItem, iSubItem;
-  UINT state, stateMask;
   LPSTR pszText;
   int cchTextMax;
 } LVITEMA;

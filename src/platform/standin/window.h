@@ -105,9 +105,8 @@ void ConstrainCreation(Window& window);
 // A frame of that size in the middle of the screen.
 RECT CentredOnScreen(int width, int height);
 
-// Sends WM_SIZE or WM_MOVE with what the window has now.
+// Sends WM_SIZE with what the window has now.
 void SendSize(const Window& window);
-void SendMove(const Window& window);
 
 // A client point of the window on the screen.
 POINT ClientOrigin(const Window& window);

@@ -5,7 +5,6 @@
 
 #include "platform/standin/control.h"
 #include "platform/standin/dialog.h"
-#include "platform/standin/failure.h"
 #include "platform/standin/window.h"
 
 namespace standin {
@@ -57,8 +56,6 @@ using namespace standin;
 
 ATOM RegisterClassExA(const WNDCLASSEXA* description) {
   if (FindClass(description->lpszClassName)) return 0;
-  if (description->cbClsExtra || description->cbWndExtra)
-    Unsupported("window classes have no extra bytes");
   RegisterClass(description->lpszClassName, description->lpfnWndProc, description->hbrBackground,
                 description->lpszMenuName);
   static ATOM atom = 0xC000;

@@ -65,15 +65,12 @@ void Free(HWND handle) {
 }
 
 // Sends the messages of a window's birth.
-void SendCreation(const WindowPtr& window, CREATESTRUCTA& creation) {
-  const auto param = reinterpret_cast<LPARAM>(&creation);
-  if (!SendMessageA(window->handle, WM_NCCREATE, 0, param))
+void SendCreation(const WindowPtr& window) {
+  if (!SendMessageA(window->handle, WM_NCCREATE, 0, 0))
     Unsupported("a window of class " + window->windowClass->name + " that refuses to be made");
   UpdateClient(*window);
-  SendMessageA(window->handle, WM_CREATE, 0, param);
-  if (window->needsSize) return;
-  SendSize(*window);
-  SendMove(*window);
+  SendMessageA(window->handle, WM_CREATE, 0, 0);
+  if (!window->needsSize) SendSize(*window);
 }
 
 }  // namespace
@@ -99,8 +96,7 @@ std::vector<HWND>& SiblingsOf(const Window& window) {
 using namespace standin;
 
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
-                     int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
-                     LPVOID param) {
+                     int width, int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID) {
   const auto windowClass = FindClass(className);
   if (!windowClass) Unsupported("no window class of that name");
   const auto parentWindow = parent ? FindWindowPtr(parent) : nullptr;
@@ -131,10 +127,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
   ConstrainCreation(*window);
   UpdateClient(*window);
   Link(*window);
-  LPCSTR const name = windowClass->name.c_str();
-  CREATESTRUCTA creation{param, instance, menu,        parent, height, width,
-                         y,     x,        LONG(style), text,   name,   exStyle};
-  SendCreation(window, creation);
+  SendCreation(window);
   const HWND handle = window->handle;
   if (style & WS_VISIBLE) ShowWindow(handle, SW_SHOW);
   return IsWindow(handle) ? handle : nullptr;

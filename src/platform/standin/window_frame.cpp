@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "platform/standin/failure.h"
 #include "platform/standin/window.h"
@@ -67,11 +68,9 @@ bool SameSize(const RECT& a, const RECT& b) {
 void ApplyFrame(const WindowPtr& window) {
   const RECT before = window->client;
   UpdateClient(*window);
-  const bool moved = before.left != window->client.left || before.top != window->client.top;
   const bool sized = !SameSize(before, window->client);
   if (sized) InvalidateRect(window->handle, nullptr, TRUE);
-  if (moved) SendMove(*window);
-  if (sized && IsWindow(window->handle)) SendSize(*window);
+  if (sized) SendSize(*window);
 }
 
 void Hide(const WindowPtr& window) {
@@ -83,10 +82,7 @@ void Reveal(const WindowPtr& window, bool activate) {
   window->style |= WS_VISIBLE;
   RedrawWindow(window->handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   if (activate && !window->IsChild()) Activate(window->handle);
-  if (!window->needsSize) return;
-  window->needsSize = false;
-  SendSize(*window);
-  SendMove(*window);
+  if (std::exchange(window->needsSize, false)) SendSize(*window);
 }
 
 }  // namespace
@@ -121,10 +117,6 @@ void ConstrainCreation(Window& window) {
 void SendSize(const Window& window) {
   SendMessageA(window.handle, WM_SIZE, SIZE_RESTORED,
                MAKELPARAM(window.ClientWidth(), window.ClientHeight()));
-}
-
-void SendMove(const Window& window) {
-  SendMessageA(window.handle, WM_MOVE, 0, MAKELPARAM(window.client.left, window.client.top));
 }
 
 POINT ClientOrigin(const Window& window) {
