@@ -26,15 +26,13 @@ class Button : public Control {
 LRESULT Button::DialogCode() const {
   switch (Type()) {
     case BS_PUSHBUTTON:
-      return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+      return DLGC_UNDEFPUSHBUTTON;
     case BS_DEFPUSHBUTTON:
-      return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
+      return DLGC_DEFPUSHBUTTON;
     case BS_AUTORADIOBUTTON:
-      return DLGC_BUTTON | DLGC_RADIOBUTTON;
-    case BS_GROUPBOX:
-      return DLGC_STATIC;
+      return DLGC_RADIOBUTTON;
     default:
-      return DLGC_BUTTON;
+      return 0;
   }
 }
 
@@ -105,8 +103,6 @@ class Static : public Control {
   using Control::Control;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override {
     switch (message) {
-      case WM_GETDLGCODE:
-        return DLGC_STATIC;
       case STM_GETICON:
         return icon_;
       case STM_SETICON:

@@ -5,28 +5,6 @@
 namespace standin {
 namespace {
 
-// The first control behind (or before) the given one, round the end and up to itself, that has the
-// style and may have the focus.
-HWND NextOf(std::vector<HWND> order, HWND control, bool previous, DWORD style) {
-  if (previous) std::reverse(order.begin(), order.end());
-  const auto place = std::find(order.begin(), order.end(), control);
-  if (place != order.end()) std::rotate(order.begin(), place + 1, order.end());
-  for (const HWND candidate : order) {
-    const auto has = static_cast<DWORD>(GetWindowLongPtrA(candidate, GWL_STYLE));
-    if ((has & style) == style && (has & WS_VISIBLE) && !(has & WS_DISABLED)) return candidate;
-  }
-  return nullptr;
-}
-
-void MoveInGroup(HWND control, bool previous) {
-  const HWND next = NextOf(GroupOf(*FindWindowPtr(control)), control, previous, 0);
-  if (!next) return;
-  FocusControl(next);
-  const bool radio = SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON;
-  if (radio && SendMessageA(next, BM_GETCHECK, 0, 0) != BST_CHECKED)
-    SendMessageA(next, BM_CLICK, 0, 0);
-}
-
 // Enter presses the push button that has the focus, otherwise the default button.
 void PressDefault(const Window& dialog) {
   const HWND focus = GetFocus();
@@ -49,13 +27,6 @@ bool HandleKey(const Window& dialog, const MSG& message) {
   switch (message.wParam) {
     case VK_TAB:
       if (const HWND next = NextTabStop(dialog, GetFocus())) FocusControl(next);
-      return true;
-    case VK_LEFT:
-    case VK_UP:
-    case VK_RIGHT:
-    case VK_DOWN:
-      if ((code & DLGC_WANTARROWS) || message.hwnd == dialog.handle) return false;
-      MoveInGroup(message.hwnd, message.wParam == VK_LEFT || message.wParam == VK_UP);
       return true;
     case VK_ESCAPE:
       SendMessageA(dialog.handle, WM_COMMAND, IDCANCEL,
@@ -126,7 +97,15 @@ LRESULT DefaultOf(const WindowPtr& window, UINT message, WPARAM wParam, LPARAM l
 }  // namespace
 
 HWND NextTabStop(const Window& dialog, HWND control) {
-  return NextOf(dialog.children, control, false, WS_TABSTOP);
+  std::vector<HWND> order = dialog.children;
+  const auto place = std::find(order.begin(), order.end(), control);
+  if (place != order.end()) std::rotate(order.begin(), place + 1, order.end());
+  constexpr DWORD kReachable = WS_TABSTOP | WS_VISIBLE;
+  const auto next = std::find_if(order.begin(), order.end(), [](HWND candidate) {
+    const auto style = static_cast<DWORD>(GetWindowLongPtrA(candidate, GWL_STYLE));
+    return (style & (kReachable | WS_DISABLED)) == kReachable;
+  });
+  return next == order.end() ? nullptr : *next;
 }
 
 void FocusControl(HWND control) {

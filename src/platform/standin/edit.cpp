@@ -87,8 +87,7 @@ void Edit::MoveToLine(bool above) {
 LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_GETDLGCODE:
-      return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS |
-             (Has(ES_MULTILINE) ? DLGC_WANTALLKEYS : 0);
+      return DLGC_HASSETSEL | (Has(ES_MULTILINE) ? DLGC_WANTALLKEYS : 0);
     case WM_SETTEXT:
       return SetText(reinterpret_cast<const char*>(lParam));
     case WM_CHAR:
@@ -96,9 +95,6 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_KEYDOWN:
       Key(wParam);
-      return 0;
-    case WM_CLEAR:
-      if (start_ != end_) Delete(false);
       return 0;
     case EM_SETSEL:
       Select(static_cast<size_t>(wParam), static_cast<size_t>(lParam));

@@ -121,8 +121,6 @@ LRESULT List::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCCREATE:
       Create();
       return TRUE;
-    case WM_GETDLGCODE:
-      return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case LB_ADDSTRING:
     case CB_ADDSTRING:
       return Add(reinterpret_cast<const char*>(lParam));

@@ -41,8 +41,6 @@ class ProgressBar : public RangeControl {
         return std::exchange(step_, static_cast<int>(wParam));
       case PBM_STEPIT:
         return Step();
-      case PBM_GETPOS:
-        return position_;
       default:
         return Control::Handle(message, wParam, lParam);
     }
@@ -67,8 +65,6 @@ class Trackbar : public RangeControl {
   using RangeControl::RangeControl;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override {
     switch (message) {
-      case WM_GETDLGCODE:
-        return DLGC_WANTARROWS;
       case TBM_SETRANGE:
         SetRange(static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam)));
         return 0;
