@@ -67,6 +67,8 @@ TEST_F(ShpOptionsTest, NumberOfColoursStaysFrom1To256) {
       SendDlgItemMessageA(dialog, IDC_SHP_COLOURS, WM_CHAR, static_cast<WPARAM>(digit), 1);
     }
     EXPECT_EQ("64", Text(dialog, IDC_SHP_COLOURS)) << "the correction is typed over";
+    PressKey(GetFocus(), VK_TAB);
+    EXPECT_EQ(GetDlgItem(dialog, IDCANCEL), GetFocus()) << "Tab skips the disabled OK";
   });
 }
 

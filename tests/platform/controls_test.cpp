@@ -15,7 +15,7 @@ class Controls : public testing::Test {
   }
 
   MessageLog log_{{WM_COMMAND}};
-  HWND parent_ = log_.Create("1", WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
+  const HWND parent_ = log_.window;
 };
 
 TEST_F(Controls, ThatAreDisabledLoseTheFocus) {
@@ -33,7 +33,7 @@ TEST_F(Controls, ListsSortWithoutCaseAndTellAClickWhenTheButtonComesUp) {
   log_.Take();
   Click(list, 5, 3);
   EXPECT_EQ(Selected(parent_, 100), 0);
-  EXPECT_EQ(log_.Take().back(), "1 COMMAND 100 code " + std::to_string(LBN_SELCHANGE));
+  EXPECT_EQ(log_.Take().back().second, MAKEWPARAM(100, LBN_SELCHANGE));
   // The selection stays with its entry when another one is put above it.
   SendMessageA(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("first"));
   EXPECT_EQ(Selected(parent_, 100), 1);

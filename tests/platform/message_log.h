@@ -1,20 +1,17 @@
 #pragma once
 
 #include <algorithm>
-#include <map>
-#include <string>
 #include <utility>
 #include <vector>
 
 #include "platform/win32.h"
-#include "support/user.h"
 
-// The window class "LogWindow" for as long as it lives. Its windows hand every message to
-// DefWindowProcA; those of interest are kept as text, such as "1 SIZE 100x50" for the window whose
-// name begins with "1".
+// A window of the class "LogWindow", 200 x 100, for as long as it lives. It hands every message to
+// DefWindowProcA; those of interest are kept with their wParam.
 class MessageLog {
  public:
-  // The messages of interest; all others are left out.
+  using Messages = std::vector<std::pair<UINT, WPARAM>>;
+
   explicit MessageLog(std::vector<UINT> wanted) : wanted_(std::move(wanted)) {
     current = this;
     WNDCLASSEXA description{};
@@ -25,43 +22,32 @@ class MessageLog {
     description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     description.lpszClassName = "LogWindow";
     RegisterClassExA(&description);
+    window = CreateWindowExA(0, "LogWindow", "log", WS_POPUP | WS_VISIBLE, 100, 100, 200, 100,
+                             nullptr, nullptr, description.hInstance, nullptr);
+    UpdateWindow(window);
+    Take();
   }
   ~MessageLog() {
-    while (const HWND left = FindWindowA("LogWindow", nullptr)) DestroyWindow(left);
-    Settle();
+    DestroyWindow(window);
     UnregisterClassA("LogWindow", GetModuleHandleA(nullptr));
-    current = nullptr;
   }
   MessageLog(const MessageLog&) = delete;
   MessageLog& operator=(const MessageLog&) = delete;
 
-  HWND Create(const char* name, DWORD style, int x, int y, int width, int height) {
-    return CreateWindowExA(0, "LogWindow", name, style, x, y, width, height, nullptr, nullptr,
-                           GetModuleHandleA(nullptr), nullptr);
-  }
+  // What has come since the last call.
+  Messages Take() { return std::exchange(messages_, {}); }
 
-  // What has been written down since the last call.
-  std::vector<std::string> Take() { return std::exchange(lines_, {}); }
+  HWND window;
 
  private:
   static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (current) current->Write(window, message, wParam, lParam);
+    const auto& wanted = current->wanted_;
+    if (std::find(wanted.begin(), wanted.end(), message) != wanted.end())
+      current->messages_.emplace_back(message, wParam);
     return DefWindowProcA(window, message, wParam, lParam);
   }
 
-  void Write(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (std::find(wanted_.begin(), wanted_.end(), message) == wanted_.end()) return;
-    const auto number = [](auto value) { return std::to_string(value); };
-    const std::map<UINT, std::string> texts = {
-        {WM_PAINT, "PAINT"},
-        {WM_TIMER, "TIMER"},
-        {WM_USER, "USER " + number(wParam)},
-        {WM_SIZE, "SIZE " + number(LOWORD(lParam)) + "x" + number(HIWORD(lParam))},
-        {WM_COMMAND, "COMMAND " + number(LOWORD(wParam)) + " code " + number(HIWORD(wParam))}};
-    lines_.push_back(Text(window).substr(0, 1) + " " + texts.at(message));
-  }
-
   static inline MessageLog* current = nullptr;
-  std::vector<UINT> wanted_;
-  std::vector<std::string> lines_;
+  const std::vector<UINT> wanted_;
+  Messages messages_;
 };

@@ -34,10 +34,9 @@ TEST(ResourceReader, StopsAtAWordThatItDoesNotKnow) {
 }
 
 TEST(StandIn, StopsWhereItWouldWaitForEver) {
-  MessageLog log({});
-  const HWND window = log.Create("1", WS_POPUP, 0, 0, 50, 50);
-  SetTimer(window, 1, 10, nullptr);
-  DestroyWindow(window);
+  const MessageLog log({});
+  SetTimer(log.window, 1, 10, nullptr);
+  DestroyWindow(log.window);
   MSG message{};
   EXPECT_DEATH(GetMessageA(&message, nullptr, 0, 0), "would wait for ever");
 }

@@ -4,22 +4,20 @@
 #include <thread>
 
 #include "controls/control.h"
+#include "imaging/memory_dc.h"
 #include "platform/message_log.h"
 #include "support/user.h"
 
 namespace {
 
-using Lines = std::vector<std::string>;
+using Messages = MessageLog::Messages;
 
 TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
   MessageLog log({WM_USER, WM_PAINT, WM_TIMER});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
-  Settle();
-  log.Take();
-  SetTimer(window, 1, 10, nullptr);
-  InvalidateRect(window, nullptr, FALSE);
-  PostMessageA(window, WM_USER, 7, 0);
-  PostMessageA(window, WM_USER, 8, 0);
+  SetTimer(log.window, 1, 10, nullptr);
+  InvalidateRect(log.window, nullptr, FALSE);
+  PostMessageA(log.window, WM_USER, 7, 0);
+  PostMessageA(log.window, WM_USER, 8, 0);
   MSG message{};
   // Until the timer is due as well.
   for (int i = 0; i < 5; ++i) {
@@ -30,57 +28,45 @@ TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
     ASSERT_GT(GetMessageA(&message, nullptr, 0, 0), 0);
     DispatchMessageA(&message);
   }
-  EXPECT_EQ(log.Take(), (Lines{"1 USER 7", "1 USER 8", "1 PAINT", "1 TIMER"}));
+  EXPECT_EQ(log.Take(), (Messages{{WM_USER, 7}, {WM_USER, 8}, {WM_PAINT, 0}, {WM_TIMER, 1}}));
 }
 
 TEST(Windows, ArePaintedAnewWhenTheyAreResized) {
   MessageLog log({WM_PAINT});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50);
+  SetWindowPos(log.window, nullptr, 0, 0, 210, 100, SWP_NOMOVE | SWP_NOZORDER);
   Settle();
-  log.Take();
-  SetWindowPos(window, nullptr, 0, 0, 60, 50, SWP_NOMOVE | SWP_NOZORDER);
-  Settle();
-  EXPECT_EQ(log.Take(), (Lines{"1 PAINT"}));
+  EXPECT_EQ(log.Take(), (Messages{{WM_PAINT, 0}}));
 }
 
 TEST(ScrollBars, ThatAreHiddenComeBackForAnotherRangeOnly) {
   MessageLog log({WM_SIZE});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100);
-  log.Take();
-  SetScrollRange(window, SB_VERT, 0, 10, TRUE);
-  const LONG bar = 200 - ClientSize(window).cx;
-  EXPECT_EQ(log.Take(), (Lines{"1 SIZE " + std::to_string(200 - bar) + "x100"}));
-  ShowScrollBar(window, SB_VERT, FALSE);
-  EXPECT_EQ(log.Take(), (Lines{"1 SIZE 200x100"}));
-  SetScrollRange(window, SB_VERT, 0, 10, TRUE);
-  EXPECT_EQ(log.Take(), Lines{});
-  SetScrollRange(window, SB_VERT, 0, 20, TRUE);
-  EXPECT_EQ(log.Take().size(), 1U);
-}
-
-COLORREF PixelAt(HWND window, int x, int y) {
-  const HDC dc = GetDC(window);
-  const COLORREF colour = GetPixel(dc, x, y);
-  ReleaseDC(window, dc);
-  return colour;
+  const auto expectSized = [&log](size_t times, bool hasBar) {
+    EXPECT_EQ(log.Take().size(), times);
+    EXPECT_EQ(ClientSize(log.window).cx < 200, hasBar);
+  };
+  SetScrollRange(log.window, SB_VERT, 0, 10, TRUE);
+  expectSized(1, true);
+  ShowScrollBar(log.window, SB_VERT, FALSE);
+  expectSized(1, false);
+  SetScrollRange(log.window, SB_VERT, 0, 10, TRUE);
+  expectSized(0, false);
+  SetScrollRange(log.window, SB_VERT, 0, 20, TRUE);
+  expectSized(1, true);
 }
 
 TEST(Painting, IsKeptInsideTheInvalidPart) {
-  MessageLog log({});
-  const HWND window = log.Create("1", WS_POPUP | WS_VISIBLE, 100, 100, 60, 40);
-  Settle();
-  const RECT part{10, 10, 20, 20};
-  InvalidateRect(window, &part, FALSE);
+  const MessageLog log({});
+  const RECT part{10, 10, 20, 20}, all{0, 0, 60, 40};
+  InvalidateRect(log.window, &part, FALSE);
   PAINTSTRUCT paint;
-  const HDC dc = BeginPaint(window, &paint);
+  FillRect(BeginPaint(log.window, &paint), &all, GetSysColorBrush(COLOR_WINDOWTEXT));
   EXPECT_EQ(paint.rcPaint.left, 10);
   EXPECT_EQ(paint.rcPaint.bottom, 20);
   EXPECT_FALSE(paint.fErase);
-  const RECT all{0, 0, 60, 40};
-  FillRect(dc, &all, GetSysColorBrush(COLOR_WINDOWTEXT));
-  EndPaint(window, &paint);
-  EXPECT_EQ(PixelAt(window, 15, 15), GetSysColor(COLOR_WINDOWTEXT));
-  EXPECT_EQ(PixelAt(window, 25, 15), GetSysColor(COLOR_WINDOW));
+  EndPaint(log.window, &paint);
+  const WindowDc dc(log.window);
+  EXPECT_EQ(GetPixel(dc.get(), 15, 15), GetSysColor(COLOR_WINDOWTEXT));
+  EXPECT_EQ(GetPixel(dc.get(), 25, 15), GetSysColor(COLOR_WINDOW));
 }
 
 }  // namespace
