@@ -110,7 +110,7 @@ class RandomUse {
 
  private:
   int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
-  void Send(HWND window, UINT message, int wParam, int lParam) {
+  void Send(HWND window, UINT message, int wParam, LPARAM lParam = 0) {
     script_ += ClassOf(window) + " " + std::to_string(GetDlgCtrlID(window)) + ": " +
                std::to_string(message) + " " + std::to_string(wParam) + " " +
                std::to_string(lParam) + "\n";
@@ -124,15 +124,11 @@ class RandomUse {
         IDM_SAVE_AS_SHP,    IDM_SELECT_ITEM,          IDM_DELETE_ITEM,         IDM_UNSELECT_ITEM,
         IDM_COPY,           IDM_VIEW_TOP_LAYER,       IDM_VIEW_BOTTOM_LAYER,   IDM_STATUS_BAR,
         IDM_MOVE_SMALL_MAP, IDM_MOVE_LARGE_MAP,       IDM_MOVE_TARGET_BOX,     IDM_ABOUT};
-    const HWND view = FindChild(editor_.Main(), "ViewClass");
-    switch (Below(4)) {
-      case 0:
-        return Send(editor_.Main(), WM_COMMAND, kCommands[Below(std::size(kCommands))], 0);
-      case 1:
-        return Send(editor_.Main(), WM_KEYDOWN, VK_LEFT + Below(4), 0);
-      default:
-        return Send(view, WM_MOUSEMOVE + Below(3), MK_LBUTTON, MAKELPARAM(Below(900), Below(600)));
-    }
+    const int kind = Below(4);
+    if (kind == 0) return Send(editor_.Main(), WM_COMMAND, kCommands[Below(std::size(kCommands))]);
+    if (kind == 1) return Send(editor_.Main(), WM_KEYDOWN, VK_LEFT + Below(4));
+    Send(FindChild(editor_.Main(), "ViewClass"), WM_MOUSEMOVE + Below(3), MK_LBUTTON,
+         MAKELPARAM(Below(900), Below(600)));
   }
   void WorkDialog(HWND dialog) {
     const std::vector<HWND> controls = ChildWindows(dialog);
@@ -140,15 +136,10 @@ class RandomUse {
     const HWND control = controls[static_cast<size_t>(Below(static_cast<int>(controls.size())))];
     const std::string kind = ClassOf(control);
     // The system's dialogs might write anywhere.
-    if (Below(8) == 0 || FindChild(dialog, "ToolbarWindow32")) {
-      Send(dialog, WM_CLOSE, 0, 0);
-    } else if (kind == "Button") {
-      Send(control, BM_CLICK, 0, 0);
-    } else if (kind == "Edit") {
-      Send(control, WM_CHAR, "0a.\\9"[Below(5)], 0);
-    } else if (kind != "Static") {
-      Send(control, WM_KEYDOWN, VK_PRIOR + Below(8), 0);
-    }
+    if (Below(8) == 0 || FindChild(dialog, "ToolbarWindow32")) return Send(dialog, WM_CLOSE, 0);
+    if (kind == "Button") return Send(control, BM_CLICK, 0);
+    if (kind == "Edit") return Send(control, WM_CHAR, "0a.\\9"[Below(5)]);
+    if (kind != "Static") Send(control, WM_KEYDOWN, VK_PRIOR + Below(8));
   }
 
   const Editor& editor_;
