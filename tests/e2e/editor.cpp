@@ -118,7 +118,7 @@ GUITHREADINFO Editor::State() const {
   return state;
 }
 
-void Editor::Tap(WORD key, int times, std::initializer_list<BYTE> held) const {
+void Editor::Tap(WORD key, int times, const std::vector<BYTE>& held) const {
   BringToFront(main_);
   const DIBClass before = CopyPixels(WindowDc(nullptr).get(), PictureArea());
   const HoldKeys modifiers(held);

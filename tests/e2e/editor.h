@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -30,7 +29,7 @@ class Editor {
   // Chooses a command as the menu would.
   void Command(UINT id) const;
   // Presses a key so many times with others held, until the picture has changed.
-  void Tap(WORD key, int times = 1, std::initializer_list<BYTE> held = {}) const;
+  void Tap(WORD key, int times = 1, const std::vector<BYTE>& held = {}) const;
   // Drags from one point of the picture to another.
   void Drag(POINT from, POINT to) const;
 

@@ -146,28 +146,22 @@ void ChooseText(HWND dialog, int id, const char* text) {
 // One user making a whole load screen, step by step.
 class LoadScreenTest : public testing::TestWithParam<Plan> {
  protected:
-  void ChooseSideAndIcons() {
-    const HWND settings = OpenSettings();
+  void ChooseSideIconsAndScreenshot() {
+    const std::string path = LentSample();
+    editor.Command(IDM_LOAD_SCREEN_SETTINGS);
+    const HWND settings = editor.Dialog("Load screen settings");
     Press(settings, plan.settings.count);
     Press(settings, plan.settings.side);
     int slot = IDC_SETTINGS_ICON1;
     for (const char* icon : plan.settings.icons) ChooseText(settings, slot++, icon);
     Screenshot(settings, plan.name + "-settings");
-    editor.Close(settings, IDCANCEL);
-    EXPECT_EQ(editor.Status(), plan.name + " - " + std::to_string(plan.settings.icons.size()));
-  }
-
-  void ChooseScreenshot() {
-    const std::string path = LentSample();
-    const HWND settings = OpenSettings();
-    EXPECT_TRUE(IsChecked(settings, plan.settings.count) &&
-                IsChecked(settings, plan.settings.side));
     editor.Click(settings, IDC_SETTINGS_BROWSE);
     editor.OpenPicture(path);
     editor.Answer("Corvanta", "Size of image isn't 234x232.Do you want to crop this image?", IDYES);
     Crop();
     WaitUntil("the screenshot's path", [&] { return Text(settings, IDC_SETTINGS_PATH) == path; });
     editor.Close(settings, IDCANCEL);
+    EXPECT_EQ(editor.Status(), plan.name + " - " + std::to_string(plan.settings.icons.size()));
   }
 
   void AdjustScreenshot() {
@@ -219,11 +213,6 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
   Editor editor;
 
  private:
-  HWND OpenSettings() {
-    editor.Command(IDM_LOAD_SCREEN_SETTINGS);
-    return editor.Dialog("Load screen settings");
-  }
-
   void Move(UINT mode, POINT by) {
     editor.Command(mode);
     if (by.x) editor.Tap(by.x < 0 ? VK_LEFT : VK_RIGHT, std::abs(by.x), {VK_CONTROL, VK_SHIFT});
@@ -256,8 +245,7 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
 
 TEST_P(LoadScreenTest, IsMadeAndExported) {
   editor.WaitForPicture();
-  ChooseSideAndIcons();
-  ChooseScreenshot();
+  ChooseSideIconsAndScreenshot();
   AdjustScreenshot();
   MoveMaps();
   for (const Symbol& symbol : plan.symbols) Place(symbol);

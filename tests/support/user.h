@@ -4,7 +4,6 @@
 
 #include <deque>
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -87,7 +86,6 @@ void Settle();
 // Holds modifier keys down while it lives.
 class HoldKeys {
  public:
-  HoldKeys(std::initializer_list<BYTE> keys) : HoldKeys(std::vector<BYTE>(keys)) {}
   explicit HoldKeys(std::vector<BYTE> keys);
   ~HoldKeys();
   HoldKeys(const HoldKeys&) = delete;

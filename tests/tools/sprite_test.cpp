@@ -82,10 +82,7 @@ const struct {
      "error: ok.shp: has no frame 2: its last is 1\n=1"},
     {{"show", "ok.shp", "ok.pal", "a.png", "--colors", "2"},
      "error: there is no option --colors here" + kSee},
-    {{"show", "small.png", "ok.pal", ".\\SMALL.PNG"},
-     "error: .\\SMALL.PNG is given for two files" + kSee},
     {{"show", "folder", "ok.pal", "a.png"}, "error: folder: cannot be opened\n=1"},
-    {{"show", "", "ok.pal", "a.png"}, "error: : cannot be opened\n=1"},
     {{"show", "ok.shp", "short.pal", "a.png"},
      "error: short.pal: has 767 bytes; a palette has 768\n=1"},
     {{"show", "ok.shp", "eight.pal", "a.png"},
@@ -100,8 +97,8 @@ const struct {
     {{"make", "screen.png", "m.shp", "--palette", "ok.pal", "--colors", "2"},
      "error: --colors and --palette exclude each other" + kSee},
     {{"make", "screen.png", "m.shp", "M.shp"}, "error: M.shp is given for two files" + kSee},
-    {{"make", "screen.png", "SCREEN.png", "m.pal"},
-     "error: SCREEN.png is given for two files" + kSee},
+    {{"make", "screen.png", ".\\SCREEN.png", "m.pal"},
+     "error: .\\SCREEN.png is given for two files" + kSee},
     {{"make", "screen.png", "ok.pal", "m.pal", "--palette", "ok.pal"},
      "error: ok.pal is given for two files" + kSee},
     {{"make", "screen.png", "m.shp", "m.pal", "--any-size", "--any-size"},
@@ -110,10 +107,7 @@ const struct {
      "error: small.bmp: is 2 x 2, not 800 x 520 (--any-size takes it as it is)\n=1"},
     {{"make", "ok.pal", "m.shp", "m.pal"}, "error: ok.pal: is no picture that can be read\n=1"},
     {{"make", "none.png", "m.shp", "m.pal"}, "error: none.png: cannot be found\n=1"},
-    {{"make", "screen.png", "m.shp", "--palette", "short.pal"},
-     "error: short.pal: has 767 bytes; a palette has 768\n=1"},
     {{"check", "none"}, "error: none: is no folder that can be read\n=1"},
-    {{"check", "ok.shp"}, "error: ok.shp: is no folder that can be read\n=1"},
 };
 
 TEST_F(SpriteTest, CommandsSayWhatIsWrong) {
