@@ -2,16 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "document/shell_calls.h"
-#include "imagelib/imagelib.h"
-#include "shell/main_window.h"
 #include "support/editor_fixture.h"
 
 namespace {
 
-class DocumentTest : public EditorFixture {};
+using DocumentTest = EditorFixture;
 
 TEST_F(DocumentTest, SideAndIconCountChooseTheTemplatesOnly) {
   const struct {
@@ -33,31 +29,6 @@ TEST_F(DocumentTest, SideAndIconCountChooseTheTemplatesOnly) {
     EXPECT_EQ(8U, CanvasPixel(775, 498)) << "so does the screenshot";
   }
   EXPECT_STREQ("Yuri", SideName(7));
-}
-
-// An application folder in which the editor has not been started yet.
-class TemplatesTest : public EditorFixture {
- protected:
-  void SetUp() override { WriteDefaultTemplates(); }
-};
-
-TEST_F(TemplatesTest, MissingFixedTemplateStopsStartUpWithItsMessage) {
-  const std::pair<const char*, const char*> templates[] = {
-      {"com_largetargetbox.png", "Error: Can't find com_largetargetbox.png file."},
-      {"com_smalltargetbox.png", "Error: Can't find com_smalltargetbox.png file."},
-      {"com_worldmap2x.png", "Error: Can't find com_worldmap2x.PNG file."}};
-  for (const auto& [name, message] : templates) {
-    const std::string file = File(std::string("Templates/") + name);
-    std::filesystem::rename(file, File("kept.png"));
-    user.Answer("Corvanta", message, MB_ICONHAND, IDOK);
-    EXPECT_FALSE(Start()) << name;
-    EXPECT_EQ(nullptr, doc.mainWindow);
-    std::filesystem::rename(File("kept.png"), file);
-    FreeDocumentImages();
-    doc.canvas.Free();
-    ImageUnInit();
-  }
-  EXPECT_EQ(nullptr, FindWindowA(kMainClassName, nullptr));
 }
 
 }  // namespace

@@ -83,6 +83,8 @@ TEST_F(FailingSystemTest, MissingTemplateIsToldAndEndsTheEditor) {
       {"all_2icomain.png", "Error", "Can't find file!"},
       {"all_worldmap.png", "Error", "Can't find file!"},
       {"com_worldmap2x.png", "Corvanta", "Error: Can't find com_worldmap2x.PNG file."},
+      {"com_smalltargetbox.png", "Corvanta", "Error: Can't find com_smalltargetbox.png file."},
+      {"com_largetargetbox.png", "Corvanta", "Error: Can't find com_largetargetbox.png file."},
   };
   for (const auto& missing : cases) {
     Lose(std::string("Templates/") + missing.file);

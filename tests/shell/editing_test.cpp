@@ -103,16 +103,23 @@ TEST_F(EditingTest, TabEscapeAndDeleteManageTheItems) {
   EXPECT_EQ(0xEEEEEEU, CanvasPixel(200, 400));
   Key(VK_TAB);
   EXPECT_EQ(0, doc.selectedItem);
+  EXPECT_TRUE(doc.items.At(0).selected && !doc.items.At(1).selected && !doc.items.At(2).selected);
   doc.canvas.Fill(1);
   for (const int key : {int{'A'}, VK_SHIFT, VK_RETURN, VK_SPACE, VK_HOME}) Key(key);
   EXPECT_EQ(1U, CanvasPixel(0, 0)) << "other keys don't even repaint";
   Key(VK_DELETE);
   EXPECT_EQ(2, doc.items.Count());
   EXPECT_EQ(-1, doc.selectedItem);
-  SelectItem(0);
-  Key(VK_ESCAPE);
-  EXPECT_EQ(-1, doc.selectedItem);
-  EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
+  for (const auto& unselect : {std::function<void()>([this] { Key(VK_ESCAPE); }),
+                               {[this] { Command(IDM_UNSELECT_ITEM); }}}) {
+    SelectItem(0);
+    EXPECT_TRUE(IsCommandEnabled(IDM_DELETE_ITEM));
+    unselect();
+    EXPECT_EQ(-1, doc.selectedItem);
+    EXPECT_EQ(0U, doc.items.At(0).selected);
+    EXPECT_FALSE(IsCommandEnabled(IDM_DELETE_ITEM));
+    EXPECT_EQ(0x111111U, CanvasPixel(100, 400)) << "shown at once";
+  }
   Key(VK_RIGHT);
   EXPECT_EQ(1, doc.worldMapX) << "the arrow keys are the map's again";
 }
@@ -155,6 +162,21 @@ TEST_F(EditingTest, LostCaptureOrItemEndsTheDrag) {
   EXPECT_EQ(300, ItemX(0)) << "no other item moves instead";
   ReleaseCanvas(200, 250);
   EXPECT_EQ(nullptr, GetCapture());
+}
+
+TEST_F(EditingTest, HitTestReachesOnePixelBeyondAndTakesTheFirst) {
+  Add(100, 200);
+  Add(300, 300);
+  Add(110, 205);
+  const struct {
+    const char* name;
+    int32_t x, y, hit;
+  } points[] = {{"corner", 100, 200, 0},         {"left of", 99, 200, -1},
+                {"above", 100, 199, -1},         {"beyond the corner", 120, 210, 0},
+                {"further right", 121, 204, -1}, {"further down", 100, 211, -1},
+                {"on both", 115, 207, 0},        {"on the third", 125, 212, 2},
+                {"on the second", 300, 300, 1}};
+  for (const auto& point : points) EXPECT_EQ(point.hit, HitTest(point.x, point.y)) << point.name;
 }
 
 TEST_F(EditingTest, ClickOnACentredOrScrolledViewFindsItsItem) {

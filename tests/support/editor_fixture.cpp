@@ -58,28 +58,17 @@ EditorFixture::~EditorFixture() { SetCurrentDirectoryA(previousDirectory_); }
 
 void EditorFixture::SetUp() {
   if (Sizes() == TemplateSizes()) {
-    WriteDefaultTemplates();
+    fs::copy(DefaultTemplates().Path(), File("Templates"));
   } else {
     WriteTemplates(AppPath("Templates"), Sizes());
   }
-  ASSERT_TRUE(Start());
-}
-
-void EditorFixture::WriteDefaultTemplates() {
-  for (const fs::directory_entry& file : fs::directory_iterator(DefaultTemplates().Path())) {
-    fs::copy_file(file.path(), File("Templates") / file.path().filename());
-  }
-}
-
-bool EditorFixture::Start() {
-  started_ = true;
-  return StartEditor(GetModuleHandleA(nullptr), SW_SHOW);
+  ASSERT_TRUE(StartEditor(GetModuleHandleA(nullptr), SW_SHOW));
 }
 
 void EditorFixture::TearDown() {
   if (IsWindow(doc.mainWindow)) DestroyWindow(doc.mainWindow);
   EmptyQueue();
-  if (started_) ShutDownEditor();
+  ShutDownEditor();
   for (const char* name : {kMainClassName, kViewClassName, "LinkClass"}) {
     UnregisterClassA(name, GetModuleHandleA(nullptr));
   }

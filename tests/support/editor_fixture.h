@@ -28,10 +28,6 @@ class EditorFixture : public testing::Test {
   // Sizes of the templates that SetUp writes.
   virtual TemplateSizes Sizes() const { return {}; }
 
-  // The steps of SetUp, for tests that do something in between.
-  void WriteDefaultTemplates();
-  bool Start();
-
   // Path of a file of the application folder with backslashes, as the editor writes it.
   std::string AppPath(const std::string& name) const { return folder_.Path() + "\\" + name; }
   // The same for the test's own file access, with slashes.
@@ -68,5 +64,4 @@ class EditorFixture : public testing::Test {
  private:
   TempFolder folder_;
   char previousDirectory_[MAX_PATH] = "";
-  bool started_ = false;
 };
