@@ -149,21 +149,13 @@ class Session : public EditorFixture {
   }
 
   void WorkMainWindow() {
-    switch (choices_.Below(8)) {
-      case 0:
-      case 1:
-      case 2:
-        return ChooseCommand();
-      case 3:
-        return PressKey(doc.mainWindow, SomeKey());
-      case 4:
-        return keybd_event(choices_.Chance(2) ? VK_SHIFT : VK_CONTROL, 0,
-                           choices_.Chance(2) ? KEYEVENTF_KEYUP : 0, 0);
-      case 5:
-        return choices_.Chance(2) ? Scroll() : Resize(doc.mainWindow);
-      default:
-        return UseMouse();
-    }
+    const int action = choices_.Below(8);
+    if (action < 3) return ChooseCommand();
+    if (action == 3) return PressKey(doc.mainWindow, SomeKey());
+    if (action > 5) return UseMouse();
+    if (action == 5) return choices_.Chance(2) ? Scroll() : Resize(doc.mainWindow);
+    keybd_event(choices_.Chance(2) ? VK_SHIFT : VK_CONTROL, 0,
+                choices_.Chance(2) ? KEYEVENTF_KEYUP : 0, 0);
   }
 
   void ChooseCommand() {
@@ -212,13 +204,12 @@ class Session : public EditorFixture {
       return ClassOf(control) == "Static" && static_cast<WORD>(GetDlgCtrlID(control)) == 0xFFFF;
     });
     const int action = choices_.Below(16);
-    if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) {
-      ChooseFile(dialog);
-    } else if (action == 0) {
+    if (GetDlgItem(dialog, cmb13) && choices_.Chance(2)) return ChooseFile(dialog);
+    if (action == 1 && (GetWindowLongPtrA(dialog, GWL_STYLE) & WS_THICKFRAME))
+      return Resize(dialog);
+    if (action == 0) {
       Did("close", 0);
       SendMessageA(dialog, WM_CLOSE, 0, 0);
-    } else if (action == 1 && (GetWindowLongPtrA(dialog, GWL_STYLE) & WS_THICKFRAME)) {
-      Resize(dialog);
     } else if (action < 4) {
       const HWND focus = GetFocus();
       PressKey(IsWindow(focus) && focus != doc.mainWindow ? focus : dialog, SomeKey());
@@ -242,15 +233,13 @@ class Session : public EditorFixture {
     const HWND parent = GetParent(control);
     const int id = GetDlgCtrlID(control);
     Did("work " + kind, id);
+    if (kind == "Edit") return Type(parent, id, SomeText());
+    if (kind == "msctls_trackbar32") return Slide(parent, id, choices_.Below(512));
     if (kind == "Button") {
       if ((GetWindowLongPtrA(control, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) Press(parent, id);
-    } else if (kind == "Edit") {
-      Type(parent, id, SomeText());
     } else if (kind == "ListBox" || kind == "ComboBox") {
       const auto count = static_cast<int>(Items(parent, id).size());
       if (count > 0) Choose(parent, id, choices_.Below(count));
-    } else if (kind == "msctls_trackbar32") {
-      Slide(parent, id, choices_.Below(512));
     } else {
       Click(control, choices_.Below(600), choices_.Below(400));
     }

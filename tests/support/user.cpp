@@ -23,13 +23,9 @@ HWND Standing(const std::string& caption) {
 // The control, when the user can reach it.
 HWND Reach(HWND dialog, int id) {
   const HWND control = GetDlgItem(dialog, id);
-  if (!control) {
-    ADD_FAILURE() << "\"" << Text(dialog) << "\" has no control " << id;
-  } else if (!IsWindowVisible(control) || !IsWindowEnabled(control)) {
-    ADD_FAILURE() << "control " << id << " of \"" << Text(dialog) << "\" is hidden or disabled";
-  } else {
-    return control;
-  }
+  if (control && IsWindowVisible(control) && IsWindowEnabled(control)) return control;
+  ADD_FAILURE() << "control " << id << " of \"" << Text(dialog)
+                << "\" is missing, hidden or disabled";
   return nullptr;
 }
 
