@@ -58,7 +58,8 @@ EditorFixture::~EditorFixture() { SetCurrentDirectoryA(previousDirectory_); }
 
 void EditorFixture::SetUp() {
   if (Sizes() == TemplateSizes()) {
-    fs::copy(DefaultTemplates().Path(), File("Templates"));
+    for (const fs::directory_entry& file : fs::directory_iterator(DefaultTemplates().Path()))
+      fs::copy_file(file.path(), File("Templates") / file.path().filename());
   } else {
     WriteTemplates(AppPath("Templates"), Sizes());
   }
