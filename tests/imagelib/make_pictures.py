@@ -122,7 +122,8 @@ def bmps():
         struct.pack("<III", 0xF800, 0x7E0, 0x1F))
     runs = b"".join(b"".join(bytes([1, index(x, y)]) for x in range(4)) +  # runs, then a literal
                     bytes([0, WIDTH - 4, *(index(x, y) for x in range(4, WIDTH)), 0, 0, 0]) for y in up)
-    bmp("palette8_short", 8, 0, rows(lambda x, y: format(index(x, y), "08b")), table[:16])
+    # One entry less than the highest index needs.
+    bmp("palette8_short", 8, 0, rows(lambda x, y: format(index(x, y), "08b")), table[:-4])
     bmp("palette8_rle", 8, 1, runs + b"\0\1", table)
 
 

@@ -24,15 +24,6 @@ const TempFolder& DefaultTemplates() {
   return folder;
 }
 
-// Handles what is still in the queue, but for the end of the message loop, which would otherwise
-// end the next test's first dialog.
-void EmptyQueue() {
-  MSG message{};
-  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-    if (message.message != WM_QUIT) DispatchMessageA(&message);
-  }
-}
-
 LPARAM ClientPoint(int32_t canvasX, int32_t canvasY) {
   return MAKELPARAM(canvasX + doc.viewOffsetX - doc.viewScrollX,
                     canvasY + doc.viewOffsetY - doc.viewScrollY);
@@ -68,7 +59,7 @@ void EditorFixture::SetUp() {
 
 void EditorFixture::TearDown() {
   if (IsWindow(doc.mainWindow)) DestroyWindow(doc.mainWindow);
-  EmptyQueue();
+  Settle();
   ShutDownEditor();
   for (const char* name : {kMainClassName, kViewClassName, "LinkClass"}) {
     UnregisterClassA(name, GetModuleHandleA(nullptr));
