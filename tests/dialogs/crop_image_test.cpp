@@ -97,7 +97,8 @@ TEST_F(CropImageTest, ArrowsMoveTheRectangleWithinThePicture) {
 }
 
 TEST_F(CropImageTest, PreviewOutlinesTheRectangleThatAClickCentres) {
-  Crop(PlainPicture(300, 280, 0x808080), [](HWND dialog) {
+  static constexpr uint32_t kPlain = 0xFF80FD, kDim = 0x80407F;
+  Crop(PlainPicture(300, 280, kPlain), [](HWND dialog) {
     const HWND preview = GetDlgItem(dialog, IDC_CROP_PREVIEW);
     MoveWindow(dialog, 0, 0, 800, 600, TRUE);
     MoveWindow(preview, 0, 0, 600, 280, TRUE);  // two columns for each of the picture
@@ -107,17 +108,17 @@ TEST_F(CropImageTest, PreviewOutlinesTheRectangleThatAClickCentres) {
     const struct {
       int x, y;
       uint32_t colour;
-    } points[] = {{0, 0, 0x404040},     {19, 100, 0x404040},  {20, 10, 0xFFFFFF},
-                  {20, 241, 0xFFFFFF},  {253, 241, 0xFFFFFF}, {21, 11, 0x808080},
-                  {252, 240, 0x808080}, {254, 100, 0x404040}, {100, 242, 0x404040},
-                  {100, 9, 0x404040},   {299, 279, 0x404040}};
+    } points[] = {{0, 0, kDim},         {19, 100, kDim},  {20, 10, 0xFFFFFF}, {20, 241, 0xFFFFFF},
+                  {253, 241, 0xFFFFFF}, {21, 11, kPlain}, {252, 240, kPlain}, {254, 100, kDim},
+                  {100, 242, kDim},     {100, 9, kDim},   {299, 279, kDim}};
     for (const auto& point : points) {
       EXPECT_EQ(point.colour, WindowPixel(preview, 2 * point.x + 1, point.y))
           << point.x << ", " << point.y;
     }
     Click(preview, 300, 130);
     EXPECT_EQ(0xFFFFFFU, WindowPixel(preview, 67, 14)) << "the click shows at once";
-    EXPECT_EQ(0x404040U, WindowPixel(preview, 41, 10)) << "where the rectangle was";
+    EXPECT_EQ(kDim, WindowPixel(preview, 41, 10)) << "where the rectangle was";
+    EXPECT_EQ(kPlain, WindowPixel(preview, 521, 244)) << "where it is now";
     EXPECT_EQ("33", Text(dialog, IDC_CROP_X));
     EXPECT_EQ("14", Text(dialog, IDC_CROP_Y));
   });
