@@ -112,13 +112,11 @@ const Failure kFailures[] = {
     {"PaletteShort", kExistingPalette, "b.shp", "short.pal", "PAL file read error!", 0},
     {"PaletteIsAFolder", kExistingPalette, "b.shp", "folder", "PAL file open error!", 0},
     {"SpriteFolderMissing", kGeneratePalette, "none\\b.shp", "b.pal", "SHP file open error!", 0},
-    {"SpriteIsAFolder", kGeneratePalette, "folder", "b.pal", "SHP file open error!", 0},
     {"PaletteFolderMissing", kGeneratePalette, "b.shp", "none\\b.pal", "Palette file create error!",
      34},
     {"SpriteOnAFullDisk", kGeneratePalette, kFullDisk, "b.pal",
      "SHP file write error (SHP2FILEHEADER)!", 0},
     {"PaletteOnAFullDisk", kGeneratePalette, "b.shp", kFullDisk, "Palette file write error!", 34},
-    {"PaletteFileIsAFolder", kGeneratePalette, "b.shp", "folder", "Palette file create error!", 34},
 };
 
 TEST_F(ShpExportTest, EachFailureLeavesWhatWasWritten) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/win32.h"
+#include "support/user.h"
 
 // A window of the class "LogWindow", 200 x 100, for as long as it lives. It hands every message to
 // DefWindowProcA; those of interest are kept with their wParam.
@@ -24,7 +25,7 @@ class MessageLog {
     RegisterClassExA(&description);
     window = CreateWindowExA(0, "LogWindow", "log", WS_POPUP | WS_VISIBLE, 100, 100, 200, 100,
                              nullptr, nullptr, description.hInstance, nullptr);
-    UpdateWindow(window);
+    Settle();
     Take();
   }
   ~MessageLog() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <chrono>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <system_error>
 
@@ -9,13 +9,10 @@
 class TempFolder {
  public:
   TempFolder() {
-    namespace fs = std::filesystem;
-    const auto start = std::chrono::system_clock::now().time_since_epoch().count();
-    for (int i = 0;; ++i) {
-      const std::string name = "corvanta" + std::to_string(start) + "-" + std::to_string(i);
-      folder_ = fs::temp_directory_path() / name;
-      if (fs::create_directory(folder_)) return;
-    }
+    do {
+      folder_ = std::filesystem::temp_directory_path() /
+                ("corvanta" + std::to_string(std::random_device()()));
+    } while (!std::filesystem::create_directory(folder_));
   }
   ~TempFolder() {
     std::error_code ignored;
