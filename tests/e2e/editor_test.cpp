@@ -6,28 +6,13 @@
 
 #include "e2e/editor.h"
 #include "resources/resource.h"
-#include "support/file_content.h"
 #include "support/picture_difference.h"
-#include "support/temp_folder.h"
 #include "support/user.h"
 #include "tools/run.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-// The picture that the contents of a sprite file and its palette file show; empty when they are no
-// such files.
-ImageClass ReadSprite(const std::string& shp, const std::string& pal) {
-  const TempFolder folder;
-  const std::string names[] = {folder.Path("a.shp"), folder.Path("a.pal"), folder.Path("a.png")};
-  WriteContent(names[0], shp);
-  WriteContent(names[1], pal);
-  Output output;
-  const std::vector<std::string> show = {"show", names[0], names[1], names[2]};
-  EXPECT_EQ(RunSprite(show, output), kDone) << output.err;
-  return output.err.empty() ? LoadPicture(names[2]) : ImageClass();
-}
 
 // Saves the picture by "Save as..." and compares it with what the view shows, in which the system
 // draws some lines in its own way.
@@ -48,8 +33,7 @@ void SavePicture(const Editor& editor, const std::string& name) {
 fs::path UserFolder() { return fs::u8path(std::getenv("PUBLIC")) / "Pictures" / "Corvanta"; }
 
 // Exports <name>.shp and <name>.pal with a generated palette of so many colours. They are turned
-// back into a picture, which is saved as <name>.shp.png and returned: the screen as the game shows
-// it.
+// back into a picture, <name>.shp.png, which is returned: the screen as the game shows it.
 ImageClass ExportSprite(const Editor& editor, const std::string& name, int colours) {
   const std::string shp = NewResultPath(name + ".shp"), result = NewResultPath(name + ".pal");
   const std::string pal = (UserFolder() / (name + ".pal")).string();
@@ -61,10 +45,12 @@ ImageClass ExportSprite(const Editor& editor, const std::string& name, int colou
   editor.Close(options, IDOK);
   fs::copy_file(pal, fs::u8path(result));
 
-  const ImageClass sprite = ReadSprite(ReadContent(shp), ReadContent(pal));
+  const std::vector<std::string> show = {"show", shp, pal, NewResultPath(name + ".shp.png")};
+  Output output;
+  EXPECT_EQ(RunSprite(show, output), kDone) << output.err;
+  const ImageClass sprite = LoadPicture(show.back());
   const auto used = static_cast<int>(CountColours(sprite));
   EXPECT_TRUE(colours - 10 < used && used <= colours) << used << " colours in " << shp;
-  SaveResult(name + ".shp.png", sprite);
   return sprite;
 }
 
