@@ -74,12 +74,6 @@ ImageClass LoadPicture(const std::string& path) {
   return picture;
 }
 
-void SaveResult(const std::string& name, const BitmapClass& picture) {
-  StartImageLibrary();
-  const std::string path = ResultPath(name);
-  if (!SaveImageFile(path.c_str(), picture)) throw std::runtime_error("Can't save " + path);
-}
-
 DIBClass CopyPixels(HDC source, const RECT& area) {
   DIBClass copy(area.right - area.left, area.bottom - area.top);
   const MemoryDc memory(source, copy.bitmap);
@@ -109,7 +103,9 @@ void Screenshot(HWND window, const std::string& name) {
   SetWindowPos(window, nullptr, 8, 32, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   RECT area{};
   GetWindowRect(window, &area);
-  SaveResult("screen-" + name + ".png", CaptureScreen(area));
+  StartImageLibrary();
+  const std::string path = ResultPath("screen-" + name + ".png");
+  if (!SaveImageFile(path.c_str(), CaptureScreen(area))) GiveUp("Can't save " + path);
 }
 
 RECT ClientArea(HWND window) {

@@ -21,8 +21,6 @@ std::string NewResultPath(const std::string& name);
 
 // Loads a picture, as soon as whoever writes it has done so.
 ImageClass LoadPicture(const std::string& path);
-// Saves a picture among the results.
-void SaveResult(const std::string& name, const BitmapClass& picture);
 
 // Copies an area of a device context.
 DIBClass CopyPixels(HDC source, const RECT& area);

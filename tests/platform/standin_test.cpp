@@ -1,12 +1,10 @@
-// What the stand-in has to itself: its reader of resource scripts, its stops, what it alone can
-// tell.
+// What the stand-in has to itself: its reader of resource scripts and what it alone can tell.
 #ifndef _WIN32
 #include <gtest/gtest.h>
 
 #include <functional>
 
 #include "document/item_operations.h"
-#include "platform/message_log.h"
 #include "platform/standin/resources.h"
 #include "platform/standin/testing.h"
 #include "support/editor_fixture.h"
@@ -28,14 +26,6 @@ TEST(ResourceReader, StopsAtAWordThatItDoesNotKnow) {
       {"1 DIALOGEX 0,0,1,1 BEGIN", "\"\" is not known"},
   };
   for (const auto& row : cases) EXPECT_DEATH(ReadResources(row.script), row.message) << row.script;
-}
-
-TEST(StandIn, StopsWhereItWouldWaitForEver) {
-  const MessageLog log({});
-  SetTimer(log.window, 1, 10, nullptr);
-  DestroyWindow(log.window);
-  MSG message{};
-  EXPECT_DEATH(GetMessageA(&message, nullptr, 0, 0), "would wait for ever");
 }
 
 // What the editor asks of the system and only the stand-in tells.
