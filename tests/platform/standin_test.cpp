@@ -2,8 +2,6 @@
 #ifndef _WIN32
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "document/item_operations.h"
 #include "platform/standin/resources.h"
 #include "platform/standin/testing.h"
@@ -29,35 +27,22 @@ TEST(ResourceReader, StopsAtAWordThatItDoesNotKnow) {
 }
 
 // What the editor asks of the system and only the stand-in tells.
-class RequestTest : public EditorFixture {
- protected:
-  // Plays the step and expects it to ask the system to open just this.
-  void ExpectOpened(const std::function<void()>& step, const char* verb, const char* file,
-                    int show) {
-    const int before = standin::LastShellRequest().count;
-    step();
-    const standin::ShellRequest& request = standin::LastShellRequest();
-    EXPECT_EQ(request.count, before + 1);
-    EXPECT_EQ(request.verb, verb);
-    EXPECT_EQ(request.file, file);
-    EXPECT_EQ(request.show, show);
-  }
-};
+using RequestTest = EditorFixture;
 
-TEST_F(RequestTest, HelpOpensTheManual) {
+TEST_F(RequestTest, HelpOpensTheManualAndTheLinkTheWebPage) {
   SetCurrentDirectoryA(AppPath("Templates").c_str());
-  ExpectOpened([this] { Command(IDM_HELP); }, "open", "TAMOVI.CHM", SW_SHOW);
-  EXPECT_EQ(File(""), standin::LastShellRequest().current + "/");
+  Command(IDM_HELP);
+  const standin::ShellRequest& request = standin::LastShellRequest();
+  EXPECT_EQ("open TAMOVI.CHM", request.verb + " " + request.file);
+  EXPECT_EQ(SW_SHOW, request.show);
+  EXPECT_EQ(File(""), request.current + "/");
   EXPECT_EQ("Templates", std::filesystem::current_path().filename()) << "as file dialogs left it";
-}
-
-TEST_F(RequestTest, LinkOpensTheWebPage) {
-  user.When("About Corvanta", [this](HWND about) {
-    ExpectOpened([about] { Click(GetDlgItem(about, IDC_ABOUT_LINK), 2, 2); }, "",
-                 "https://corvanta.example.org/", SW_SHOWMAXIMIZED);
-    Press(about, IDCANCEL);
-  });
-  Command(IDM_ABOUT);
+  const int before = request.count;
+  WithDialog("About Corvanta", IDM_ABOUT,
+             [](HWND about) { Click(GetDlgItem(about, IDC_ABOUT_LINK), 2, 2); });
+  EXPECT_EQ(before + 1, request.count);
+  EXPECT_EQ("https://corvanta.example.org/", request.verb + request.file);
+  EXPECT_EQ(SW_SHOWMAXIMIZED, request.show);
 }
 
 TEST_F(RequestTest, UnusedKeyBeepsWhileAnItemIsSelected) {

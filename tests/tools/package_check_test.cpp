@@ -34,10 +34,7 @@ struct Picture {
 constexpr Picture kMissing = {0, 0, 0, 0}, kUnreadable = {1, 0, 0, 0};
 constexpr uint32_t kBlue = kKeyColour, kYellow = kSideMarker, kGrey = 0x808080;
 
-constexpr const char* kLongName =
-    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
-    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
-    "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn";
+const std::string kLongName(240, 'n');
 
 // In the order in which they are found.
 const struct {
@@ -86,7 +83,7 @@ const struct {
     {"cam_sapper.png",
      {76, 59, kGrey, kGrey},
      "error: @is 76 x 59, but should be 76 x 60: the editor refuses it\n"},
-    {kLongName, kMissing, "error: @has a path of more than 259 bytes\n"},
+    {kLongName.c_str(), kMissing, "error: @has a path of more than 259 bytes\n"},
     {"readme.txt", kMissing, "warning: @is missing or empty: the About box shows no text\n"},
 };
 
