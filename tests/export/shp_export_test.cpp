@@ -171,11 +171,13 @@ TEST_F(ShpExportTest, DataForAClosedFileIsAnError) {
 }
 
 TEST_F(ShpExportTest, ComponentsAbove63Wrap) {
-  WriteContent(pal_, std::string("\x3F\x0A\0\x40\x41\xFF", 6) + std::string(762, '\1') + "ignored");
+  std::string file("\x3F\x0A\0\x40\x41\xFF", 6), expected("\xFC\x28\0\0\x04\xFC", 6);
+  file.resize(800, '\1');  // of which 768 count
+  expected.resize(768, '\4');
+  WriteContent(pal_, file);
   ShpPalette palette;
   EXPECT_STREQ(nullptr, ReadPalFile(pal_.c_str(), palette));
-  EXPECT_EQ(std::string("\xFC\x28\0\0\x04\xFC", 6) + std::string(762, '\4'),
-            std::string(reinterpret_cast<const char*>(&palette), sizeof palette));
+  EXPECT_EQ(expected, std::string(reinterpret_cast<const char*>(&palette), sizeof palette));
 }
 
 }  // namespace

@@ -11,13 +11,6 @@ namespace {
 
 class ViewTest : public EditorFixture {
  protected:
-  // The bar reaches as far as the client area leaves something out of sight.
-  static void ExpectRange(int bar, int lastPosition) {
-    if (lastPosition < 0) return;
-    int first = -1, last = -1;
-    GetScrollRange(doc.viewWindow, bar, &first, &last);
-    EXPECT_EQ(std::pair(0, lastPosition), std::pair(first, last));
-  }
   static void Scroll(UINT message, int code, int thumb = 0) {
     SendMessageA(doc.viewWindow, message, static_cast<WPARAM>(MAKELONG(code, thumb)), 0);
   }
@@ -40,8 +33,13 @@ TEST_F(ViewTest, PictureIsCentredOrScrolledAsFarAsTheClientAreaNeeds) {
     EXPECT_EQ(client.cy > 520 ? (client.cy - 520) / 2 : 0, doc.viewOffsetY);
     EXPECT_EQ(std::min<int>(client.cx, 800), doc.viewVisibleWidth);
     EXPECT_EQ(std::min<int>(client.cy, 520), doc.viewVisibleHeight);
-    ExpectRange(SB_HORZ, 800 - client.cx);
-    ExpectRange(SB_VERT, 520 - client.cy);
+    // The bars reach as far as the client area leaves something out of sight.
+    for (const auto& [bar, last] :
+         {std::pair(SB_HORZ, 800 - client.cx), {SB_VERT, 520 - client.cy}}) {
+      int from = 0, to = last;
+      if (last > 0) GetScrollRange(doc.viewWindow, bar, &from, &to);
+      EXPECT_EQ(std::pair(0, int{last}), std::pair(from, to));
+    }
   }
 }
 
