@@ -153,9 +153,6 @@ class LoadScreenTest : public testing::TestWithParam<Plan> {
   void AdjustScreenshot() {
     editor.Command(IDM_SCREENSHOT_SETTINGS);
     const HWND dialog = editor.Dialog("Screen shot settings");
-    Press(dialog, IDC_SHOT_GREYSCALE);
-    EXPECT_FALSE(IsEnabled(dialog, IDC_SHOT_RED));
-    Press(dialog, IDC_SHOT_GREYSCALE);
     Slide(dialog, plan.screenshot.dimmed, 201);
     Slide(dialog, IDC_SHOT_LIGHTNESS, plan.screenshot.lightness);
     Screenshot(dialog, plan.name + "-screenshot-settings");

@@ -51,11 +51,9 @@ void CheckPicture(const std::string& path, const ImageSize& size) {
   if (!loaded) return;
   Require(picture.width == size.width && picture.height == size.height, "the size is as told");
   Require(Difference(picture, copy).empty(), "both kinds of surface get the same pixels");
-  for (int32_t y = 0; y < picture.height; ++y) {
-    for (int32_t x = 0; x < picture.width; ++x) {
-      Require(picture.Row(y)[x] >> 24 == 0, "top bytes are 0");
-    }
-  }
+  const uint32_t* const row = picture.Row(0);  // the others follow it
+  for (int32_t i = 0; i < picture.width * picture.height; ++i)
+    Require(row[i] >> 24 == 0, "top bytes are 0");
   const std::string saved = Folder().Path("saved.png");
   // Some file systems wait for the disk when a file is replaced.
   std::remove(saved.c_str());

@@ -5,8 +5,7 @@
 
 namespace {
 
-constexpr int kUnlimited = -1;
-int left = kUnlimited;
+int left = -1;
 size_t live = 0;
 
 void* TryAllocate(size_t size) noexcept {
@@ -30,8 +29,7 @@ void Release(void* memory) noexcept {
 
 size_t LiveAllocations() { return live; }
 
-AllocationsLeft::AllocationsLeft(int count) { left = count; }
-AllocationsLeft::~AllocationsLeft() { left = kUnlimited; }
+void LimitAllocations(int count) { left = count; }
 
 void* operator new(size_t size) { return Allocate(size); }
 void* operator new[](size_t size) { return Allocate(size); }

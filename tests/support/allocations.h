@@ -5,14 +5,8 @@
 // How many allocations of the C++ heap have not been given back.
 size_t LiveAllocations();
 
-// Lets so many allocations of the C++ heap succeed while it lives; all others throw std::bad_alloc.
-class AllocationsLeft {
- public:
-  explicit AllocationsLeft(int count);
-  ~AllocationsLeft();
-  AllocationsLeft(const AllocationsLeft&) = delete;
-  AllocationsLeft& operator=(const AllocationsLeft&) = delete;
-};
+// Lets so many allocations of the C++ heap succeed, all for -1; all others throw std::bad_alloc.
+void LimitAllocations(int count);
 
 // Tries a step with no allocation left, then with one, and so on, until it succeeds. `failed` looks
 // after each failure. The number of failures.
@@ -20,10 +14,10 @@ template <class Step, class Failed>
 int FailEachAllocation(Step step, Failed failed) {
   int count = 0;
   for (;; ++count) {
-    {
-      const AllocationsLeft left(count);
-      if (step()) return count;
-    }
+    LimitAllocations(count);
+    const bool succeeded = step();
+    LimitAllocations(-1);
+    if (succeeded) return count;
     failed();
   }
 }
