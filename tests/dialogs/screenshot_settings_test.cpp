@@ -16,7 +16,8 @@ class ScreenshotSettingsTest : public EditorFixture {
   void SetUp() override {
     EditorFixture::SetUp();
     SetLayers(0, 1);  // the frame would cover part of the screenshot
-    doc.screenshot = PlainPicture(234, 232, 0x8040FF);
+    // A grey half way between two for its weights, so that the next weight of any channel shows.
+    doc.screenshot = PlainPicture(234, 232, 0xF0A0C8);
   }
 
   // The adjusted screenshot's colour, which preview, document and view have to agree on.
@@ -24,8 +25,8 @@ class ScreenshotSettingsTest : public EditorFixture {
     const HWND preview = GetDlgItem(dialog, IDC_SHOT_PREVIEW);
     const SIZE size = ClientSize(preview);
     const uint32_t colour = WindowPixel(preview, size.cx / 2, size.cy / 2);
-    EXPECT_EQ(colour, doc.screenshot.ReadPixel(100, 100));
-    EXPECT_EQ(colour, CanvasPixel(542 + 100, 267 + 100));
+    EXPECT_EQ(colour, doc.screenshot.ReadPixel(233, 231));
+    EXPECT_EQ(colour, CanvasPixel(542 + 233, 267 + 231));
     return colour;
   }
 };
@@ -35,7 +36,7 @@ TEST_F(ScreenshotSettingsTest, SlidersStartNeutralAndActOnTheirOwnUnlessGreyscal
   doc.adjustGreyscale = 1;
   WithDialog(kCaption, IDM_SCREENSHOT_SETTINGS, [this](HWND dialog) {
     EXPECT_FALSE(IsChecked(dialog, IDC_SHOT_GREYSCALE));
-    EXPECT_EQ(0x7F3FFEU, Adjusted(dialog));
+    EXPECT_EQ(0xEF9FC7U, Adjusted(dialog));
     for (const int id : kColourSliders) {
       EXPECT_EQ(255, SendDlgItemMessageA(dialog, id, TBM_GETPOS, 0, 0)) << id;
       EXPECT_EQ(255, SendDlgItemMessageA(dialog, id, TBM_GETRANGEMAX, 0, 0)) << id;
@@ -43,17 +44,18 @@ TEST_F(ScreenshotSettingsTest, SlidersStartNeutralAndActOnTheirOwnUnlessGreyscal
     const struct {
       int slider, position;
       uint32_t colour;
-    } steps[] = {{IDC_SHOT_RED, 128, 0x403FFE},     {IDC_SHOT_GREEN, 0, 0x4000FE},
-                 {IDC_SHOT_BLUE, 64, 0x40003F},     {IDC_SHOT_LIGHTNESS, 511, 0xFFFFFF},
-                 {IDC_SHOT_LIGHTNESS, 0, 0x010001}, {IDC_SHOT_LIGHTNESS, 255, 0x40003F}};
+    } steps[] = {{IDC_SHOT_RED, 128, 0x789FC7},       {IDC_SHOT_GREEN, 0, 0x7800C7},
+                 {IDC_SHOT_BLUE, 64, 0x780032},       {IDC_SHOT_LIGHTNESS, 511, 0xFFFFFF},
+                 {IDC_SHOT_LIGHTNESS, 383, 0xBB7F98}, {IDC_SHOT_LIGHTNESS, 127, 0x3C0019},
+                 {IDC_SHOT_LIGHTNESS, 0, 0x010001},   {IDC_SHOT_LIGHTNESS, 255, 0x780032}};
     for (const auto& step : steps) {
       Slide(dialog, step.slider, step.position);
       EXPECT_EQ(step.colour, Adjusted(dialog)) << step.slider << " at " << step.position;
     }
-    for (const uint32_t colour : {0x676767U, 0x40003FU}) {
+    for (const uint32_t colour : {0xBBBBBBU, 0x780032U}) {
       Press(dialog, IDC_SHOT_GREYSCALE);
       EXPECT_EQ(colour, Adjusted(dialog));
-      for (const int id : kColourSliders) EXPECT_EQ(colour == 0x40003F, IsEnabled(dialog, id));
+      for (const int id : kColourSliders) EXPECT_EQ(colour == 0x780032, IsEnabled(dialog, id));
     }
   });
 }

@@ -121,7 +121,6 @@ TEST_F(ShpOptionsTest, ChosenModeIsKeptAndDoesNotTestTheNameAgain) {
   WriteContent(File("there.pal"), palette);
   SaveAsShp([this](HWND dialog) {
     EXPECT_TRUE(IsChecked(dialog, IDC_SHP_EXISTING));
-    EXPECT_FALSE(IsChecked(dialog, IDC_SHP_GENERATE));
     Type(dialog, IDC_SHP_NAME, AppPath("there.pal"));
     Type(dialog, IDC_SHP_COLOURS, "16");
     Press(dialog, IDOK);

@@ -66,7 +66,6 @@ const Row kRows[] = {
     {"InvertedPastTheCorner", invert(4, 2, 9, 9), "......|......|....WW|....W."},
     // Only the Draw of a DIBClass is clipped.
     {"Whole", draw(1, 1), "......|.#2t..|.4K#..|......"},
-    {"WholeInTheCorner", draw(3, 2), "......|......|...#2t|...4K#"},
     {"WholePastTheRight", draw(5, 0), kNothing, ".....#|.....4|......|......"},
     {"WholePastTheBottom", draw(0, 3), kNothing, "......|......|......|#2t..."},
     {"WholeAtNegativeY", draw(0, -1), kNothing},

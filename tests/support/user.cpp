@@ -138,10 +138,7 @@ void Choose(HWND dialog, int id, int position) {
   const HWND list = Reach(dialog, id);
   if (!list) return;
   const LRESULT count = Count(list);
-  if (position < 0 || position >= count) {
-    ADD_FAILURE() << "list " << id << " has no entry " << position;
-    return;
-  }
+  EXPECT_TRUE(position >= 0 && position < count) << "of list " << id;
   SetFocus(list);
   // From the neighbour it is one key press, and so one notification; a single entry is the first.
   const int neighbour = position > 0 ? position - 1 : count > 1 ? 1 : -1;

@@ -136,7 +136,6 @@ const struct {
     {36, 3, "its frame width (offset 36) is 3, but should be 1 to 2"},
     {38, 0, "its frame height (offset 38) is 0, but should be 1"},
     {40, 3, "its first reserved field (offset 40) is 3, but should be 0"},
-    {47, 1, "its second reserved field (offset 44) is 16777216, but should be 0"},
     {48, 1, "its third reserved field (offset 48) is 1, but should be 0"},
     {52, 55, "its offset of the indices (offset 52) is 55, but should be 56 to 62"},
     {52, 63, "its offset of the indices (offset 52) is 63, but should be 56 to 62"},
