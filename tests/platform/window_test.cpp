@@ -13,8 +13,8 @@ namespace {
 using Messages = MessageLog::Messages;
 
 TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
-  MessageLog log({WM_USER, WM_PAINT, WM_TIMER});
-  SetTimer(log.window, 1, 10, nullptr);
+  const MessageLog log({});
+  const UINT_PTR timer = SetTimer(nullptr, 0, 10, nullptr);
   InvalidateRect(log.window, nullptr, FALSE);
   PostMessageA(log.window, WM_USER, 7, 0);
   PostMessageA(log.window, WM_USER, 8, 0);
@@ -24,11 +24,13 @@ TEST(MessageQueue, PostedMessagesComeBeforePaintingAndPaintingBeforeTimers) {
     PeekMessageA(&message, nullptr, WM_USER + 1, WM_USER + 1, PM_REMOVE);
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
-  for (int i = 0; i < 4; ++i) {
+  for (const auto& expected :
+       Messages{{WM_USER, 7}, {WM_USER, 8}, {WM_PAINT, 0}, {WM_TIMER, timer}}) {
     ASSERT_GT(GetMessageA(&message, nullptr, 0, 0), 0);
+    EXPECT_EQ(expected, std::pair(message.message, message.wParam));
     DispatchMessageA(&message);
   }
-  EXPECT_EQ(log.Take(), (Messages{{WM_USER, 7}, {WM_USER, 8}, {WM_PAINT, 0}, {WM_TIMER, 1}}));
+  KillTimer(nullptr, timer);
 }
 
 TEST(Windows, ArePaintedAnewWhenTheyAreResized) {
@@ -60,9 +62,7 @@ TEST(Painting, IsKeptInsideTheInvalidPart) {
   InvalidateRect(log.window, &part, FALSE);
   PAINTSTRUCT paint;
   FillRect(BeginPaint(log.window, &paint), &all, GetSysColorBrush(COLOR_WINDOWTEXT));
-  EXPECT_EQ(paint.rcPaint.left, 10);
-  EXPECT_EQ(paint.rcPaint.bottom, 20);
-  EXPECT_FALSE(paint.fErase);
+  EXPECT_TRUE(paint.rcPaint.left == 10 && paint.rcPaint.bottom == 20 && !paint.fErase);
   EndPaint(log.window, &paint);
   const WindowDc dc(log.window);
   EXPECT_EQ(GetPixel(dc.get(), 15, 15), GetSysColor(COLOR_WINDOWTEXT));

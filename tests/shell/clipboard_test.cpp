@@ -28,8 +28,7 @@ class ClipboardTest : public EditorFixture {
     const auto bitmap = static_cast<HBITMAP>(GetClipboardData(CF_BITMAP));
     BITMAP size{};
     EXPECT_NE(0, GetObjectA(bitmap, sizeof size, &size));
-    EXPECT_EQ(800, size.bmWidth);
-    EXPECT_EQ(520, size.bmHeight);
+    EXPECT_TRUE(size.bmWidth == 800 && size.bmHeight == 520);
     {
       const MemoryDc from(nullptr, bitmap), to(nullptr, picture.bitmap);
       BitBlt(to.get(), 0, 0, 800, 520, from.get(), 0, 0, SRCCOPY);

@@ -62,7 +62,7 @@ TEST_F(MainWindowTest, MenuOpensEveryDialog) {
   }
 }
 
-TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
+TEST_F(MainWindowTest, ModesAndLayersAreChosenOnTheirOwn) {
   const std::pair<UINT, const char*> modes[] = {{IDM_MOVE_LARGE_MAP, "Move large map"},
                                                 {IDM_MOVE_TARGET_BOX, "Move target box"},
                                                 {IDM_MOVE_SMALL_MAP, "Move small map"}};
@@ -71,6 +71,9 @@ TEST_F(MainWindowTest, ModeCommandsMoveTheMarkAndTheText) {
     EXPECT_EQ(std::string("Current mode: ") + text, StatusText(1));
     for (const auto& mode : modes) EXPECT_EQ(mode.first == chosen, IsCommandChecked(mode.first));
   }
+  for (const UINT layer : {IDM_VIEW_BOTTOM_LAYER, IDM_VIEW_TOP_LAYER}) Command(layer);
+  EXPECT_FALSE(IsCommandChecked(IDM_VIEW_BOTTOM_LAYER) || IsCommandChecked(IDM_VIEW_TOP_LAYER));
+  EXPECT_EQ(0U, CanvasPixel(400, 200)) << "neither layer is shown";
 }
 
 TEST_F(MainWindowTest, ViewFillsWhatTheStatusBarLeavesAtEverySize) {
@@ -84,9 +87,6 @@ TEST_F(MainWindowTest, ViewFillsWhatTheStatusBarLeavesAtEverySize) {
       ExpectLaidOut();
     }
   }
-  SendMessageA(doc.mainWindow, WM_SIZE, SIZE_MINIMIZED, 0);
-  EXPECT_GE(doc.viewVisibleWidth, 0);
-  EXPECT_GE(doc.viewVisibleHeight, 0);
 }
 
 TEST_F(MainWindowTest, EditorEndsOnlyOnYes) {

@@ -84,7 +84,6 @@
 #define WA_INACTIVE 0
 #define WA_ACTIVE 1
 #define SIZE_RESTORED 0
-#define SIZE_MINIMIZED 1
 #define MK_LBUTTON 1
 #define ICON_SMALL 0
 

@@ -15,7 +15,6 @@ constexpr DWORD kPollTime = 10;
 constexpr int kPaintsInVain = 10000;
 
 struct Timer {
-  HWND window;
   UINT_PTR id;
   UINT period;
   DWORD due;
@@ -87,7 +86,7 @@ bool TakeTimer(MSG& message, const Filter& filter) {
   for (Timer& timer : queue.timers) {
     if (timer.due > queue.now || !filter.Takes(WM_TIMER)) continue;
     timer.due = queue.now + timer.period;
-    message = MakeMessage(timer.window, WM_TIMER, timer.id, reinterpret_cast<LPARAM>(timer.proc));
+    message = MakeMessage(nullptr, WM_TIMER, timer.id, reinterpret_cast<LPARAM>(timer.proc));
     // The others of this moment come first the next time.
     std::rotate(queue.timers.begin(), queue.timers.begin() + (&timer - queue.timers.data()) + 1,
                 queue.timers.end());
@@ -109,9 +108,7 @@ bool Take(MSG& message, const Filter& filter, bool remove) {
 bool TakeMessage(MSG& message) { return Take(message, {}, true); }
 
 void ForgetMessages(HWND window) {
-  Queue& queue = TheQueue();
-  std::erase_if(queue.posted, [&](const MSG& message) { return message.hwnd == window; });
-  std::erase_if(queue.timers, [&](const Timer& timer) { return timer.window == window; });
+  std::erase_if(TheQueue().posted, [&](const MSG& message) { return message.hwnd == window; });
 }
 
 void PassTime(DWORD milliseconds) { TheQueue().now += milliseconds; }
@@ -171,19 +168,15 @@ LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, 
 
 VOID PostQuitMessage(int exitCode) { TheQueue().exitCode = exitCode; }
 
-UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC proc) {
-  if (window && !FindWindowPtr(window)) return 0;
+// Without a window the system chooses the number.
+UINT_PTR SetTimer(HWND window, UINT_PTR, UINT milliseconds, TIMERPROC proc) {
+  if (window) Unsupported("timers of windows");
   Queue& queue = TheQueue();
   const UINT period = std::max(milliseconds, kShortestTimer);
-  KillTimer(window, id);
-  // Without a window the system chooses the number.
-  if (!window) id = ++queue.nextTimer;
-  queue.timers.push_back({window, id, period, queue.now + period, proc});
-  return id;
+  queue.timers.push_back({++queue.nextTimer, period, queue.now + period, proc});
+  return queue.nextTimer;
 }
 
-BOOL KillTimer(HWND window, UINT_PTR id) {
-  return std::erase_if(TheQueue().timers, [&](const Timer& timer) {
-           return timer.window == window && timer.id == id;
-         }) != 0;
+BOOL KillTimer(HWND, UINT_PTR id) {
+  return std::erase_if(TheQueue().timers, [id](const Timer& timer) { return timer.id == id; }) != 0;
 }

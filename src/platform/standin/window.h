@@ -127,7 +127,7 @@ void ForgetWindow(HWND window);
 
 // Takes the next message, without waiting: posted ones first, then WM_QUIT, WM_PAINT and timers.
 bool TakeMessage(MSG& message);
-// Drops what is posted to a window and its timers.
+// Drops what is posted to a window.
 void ForgetMessages(HWND window);
 // Lets the thread's clock, which runs only while the program waits, go on.
 void PassTime(DWORD milliseconds);
