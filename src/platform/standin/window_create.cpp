@@ -96,7 +96,9 @@ std::vector<HWND>& SiblingsOf(const Window& window) {
 using namespace standin;
 
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
-                     int width, int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID) {
+                     int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                     LPVOID param) {
+  if (param) Unsupported("a window with a parameter of its own");
   const auto windowClass = FindClass(className);
   if (!windowClass) Unsupported("no window class of that name");
   const auto parentWindow = parent ? FindWindowPtr(parent) : nullptr;
