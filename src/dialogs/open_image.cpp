@@ -22,9 +22,10 @@ void AddStyle(HWND window, int index, LONG_PTR bits) {
   SetWindowLongPtrA(window, index, GetWindowLongPtrA(window, index) | bits);
 }
 
-// The selected file's picture, in the dialog's user data for as long as the dialog is open.
-DIBClass& PreviewOf(HWND pane) {
-  return *reinterpret_cast<DIBClass*>(GetWindowLongPtrA(pane, DWLP_USER));
+// The selected file's picture, in the dialog's user data for as long as the dialog is open; null in
+// a pane whose making was broken off.
+DIBClass* PreviewOf(HWND pane) {
+  return reinterpret_cast<DIBClass*>(GetWindowLongPtrA(pane, DWLP_USER));
 }
 
 void OnInitDialog(HWND pane, const OPENFILENAMEA& dialog) {
@@ -86,10 +87,10 @@ void OnSelectionChanged(HWND pane) {
       SendMessageA(GetParent(pane), CDM_GETFILEPATH, MAX_PATH - 1, reinterpret_cast<LPARAM>(path));
   // A path that is cut short would be another file's.
   if (needed > MAX_PATH - 1 || IsFolderSelected(GetParent(pane), path)) path[0] = '\0';
-  DIBClass& preview = PreviewOf(pane);
-  preview.Free();
-  const bool loaded = TryLoadImageFile(path, preview) != 0;
-  ShowPreviewPicture(GetDlgItem(pane, IDC_OPEN_PREVIEW), loaded ? &preview : nullptr);
+  DIBClass* const preview = PreviewOf(pane);
+  preview->Free();
+  const bool loaded = TryLoadImageFile(path, *preview) != 0;
+  ShowPreviewPicture(GetDlgItem(pane, IDC_OPEN_PREVIEW), loaded ? preview : nullptr);
 }
 
 void OnNotice(HWND pane, UINT code) {
@@ -109,7 +110,7 @@ UINT_PTR CALLBACK OpenPreviewHook(HWND pane, UINT message, WPARAM, LPARAM lParam
       OnNotice(pane, reinterpret_cast<const NMHDR*>(lParam)->code);
       return 1;
     case WM_DESTROY:
-      PreviewOf(pane).Free();
+      if (DIBClass* const preview = PreviewOf(pane)) preview->Free();
       return 1;
   }
   return 0;

@@ -9,9 +9,9 @@ int left = -1;
 size_t live = 0;
 
 void* TryAllocate(size_t size) noexcept {
-  void* const memory = left == 0 ? nullptr : std::malloc(size ? size : 1);
+  if (left-- == 0) return nullptr;
+  void* const memory = std::malloc(size ? size : 1);
   if (memory) ++live;
-  if (memory && left > 0) --left;
   return memory;
 }
 
@@ -29,7 +29,7 @@ void Release(void* memory) noexcept {
 
 size_t LiveAllocations() { return live; }
 
-void LimitAllocations(int count) { left = count; }
+void FailAllocation(int number) { left = number; }
 
 void* operator new(size_t size) { return Allocate(size); }
 void* operator new[](size_t size) { return Allocate(size); }

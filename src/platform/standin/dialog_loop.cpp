@@ -32,24 +32,40 @@ bool RunOnce(HWND handle, bool& shown) {
   return IsWindow(handle);
 }
 
+// A dialog's hold on its owner. When an exception ends the dialog, its windows go with it.
+class Modal {
+ public:
+  explicit Modal(HWND owner) : owner_(owner), ownerEnabled_(owner && !EnableWindow(owner, FALSE)) {}
+  ~Modal() {
+    if (ownerEnabled_ && IsWindow(owner_)) EnableWindow(owner_, TRUE);
+    while (TopLevelWindows().size() > standing_) DestroyWindow(TopLevelWindows().front());
+  }
+  Modal(const Modal&) = delete;
+  Modal& operator=(const Modal&) = delete;
+
+  bool OwnerEnabled() const { return ownerEnabled_; }
+
+ private:
+  const HWND owner_;
+  const bool ownerEnabled_;
+  const size_t standing_ = TopLevelWindows().size();
+};
+
 }  // namespace
 
 INT_PTR RunDialog(const DialogTemplate& dialog, HWND owner, DLGPROC proc, LPARAM param) {
   const auto root = owner ? RootOf(owner) : nullptr;
   if (owner && !root) return 0;
   const HWND ownerHandle = root ? root->handle : nullptr;
-  const bool ownerEnabled = ownerHandle && !EnableWindow(ownerHandle, FALSE);
-  const HWND handle = CreateDialogFromTemplate(dialog, ownerHandle, proc, param, ownerEnabled);
+  const Modal modal(ownerHandle);
+  const HWND handle =
+      CreateDialogFromTemplate(dialog, ownerHandle, proc, param, modal.OwnerEnabled());
   const auto window = handle ? FindWindowPtr(handle) : nullptr;
   if (!window) Unsupported("a dialog that is destroyed before it runs");
   bool shown = window->style & WS_VISIBLE;
   while (!window->dialog->ended && RunOnce(handle, shown)) {
   }
-  const INT_PTR result = window->dialog->endResult;
-  if (ownerEnabled && IsWindow(ownerHandle)) EnableWindow(ownerHandle, TRUE);
-  if (!IsWindow(handle)) return 0;
-  DestroyWindow(handle);
-  return result;
+  return IsWindow(handle) ? window->dialog->endResult : 0;
 }
 
 }  // namespace standin
