@@ -99,10 +99,9 @@ class Session : public EditorFixture {
 
  private:
   void TestBody() override {}
-  TemplateSizes Sizes() const override { return kSizes[sizes_]; }
 
   void SetUp() override {
-    sizes_ = static_cast<size_t>(choices_.Below(static_cast<int>(std::size(kSizes))));
+    WriteTemplates(File("Templates"), choices_.From(kSizes));
     WriteSettings(choices_.Chance(16) ? "[Other]" : kSettings);
     WriteContent(File("Templates/readme.txt"), "First line\r\nSecond line\r\n");
     WriteContent(File("broken"), "no picture");
@@ -263,7 +262,6 @@ class Session : public EditorFixture {
 
   static inline Session* current = nullptr;
   Choices choices_;
-  size_t sizes_ = 0;
   size_t actions_ = 0;
   bool mayEnd_ = false;
 };

@@ -48,11 +48,9 @@ EditorFixture::EditorFixture() {
 EditorFixture::~EditorFixture() { SetCurrentDirectoryA(previousDirectory_); }
 
 void EditorFixture::SetUp() {
-  if (Sizes() == TemplateSizes()) {
-    for (const fs::directory_entry& file : fs::directory_iterator(DefaultTemplates().Path()))
-      fs::copy_file(file.path(), File("Templates") / file.path().filename());
-  } else {
-    WriteTemplates(AppPath("Templates"), Sizes());
+  for (const fs::directory_entry& file : fs::directory_iterator(DefaultTemplates().Path())) {
+    fs::copy_file(file.path(), File("Templates") / file.path().filename(),
+                  fs::copy_options::skip_existing);
   }
   ASSERT_TRUE(StartEditor(GetModuleHandleA(nullptr), SW_SHOW));
 }

@@ -21,12 +21,9 @@ class EditorFixture : public testing::Test {
   EditorFixture();
   ~EditorFixture() override;
 
-  // Writes the templates and starts the editor.
+  // Writes the templates that do not stand there yet, and starts the editor.
   void SetUp() override;
   void TearDown() override;
-
-  // Sizes of the templates that SetUp writes.
-  virtual TemplateSizes Sizes() const { return {}; }
 
   // Path of a file of the application folder with backslashes, as the editor writes it.
   std::string AppPath(const std::string& name) const { return folder_.Path() + "\\" + name; }

@@ -10,8 +10,6 @@
 struct PictureSize {
   int32_t width;
   int32_t height;
-
-  bool operator==(const PictureSize&) const = default;
 };
 
 struct TemplateSizes {
@@ -20,8 +18,6 @@ struct TemplateSizes {
   PictureSize frame = {295, 289};
   PictureSize targetBox = {60, 58};
   PictureSize overlay = {800, 520};
-
-  bool operator==(const TemplateSizes&) const = default;
 };
 
 // Pixels of the templates by position. Maps up to 1024 and frames up to 512 pixels each way.

@@ -16,7 +16,7 @@ class Button : public Control {
   void SetCheck(bool check);
   void UncheckOthers() const;
   void Push();
-  void Release(LPARAM place);
+  void Release();
   void Clicked();
 
   bool checked_ = false;
@@ -59,12 +59,10 @@ void Button::Push() {
   pushed_ = true;
 }
 
-void Button::Release(LPARAM place) {
+void Button::Release() {
   if (!std::exchange(pushed_, false)) return;
   if (GetCapture() == window_.handle) ReleaseCapture();
-  const int x = static_cast<SHORT>(LOWORD(place));
-  const int y = static_cast<SHORT>(HIWORD(place));
-  if (x >= 0 && y >= 0 && x < window_.ClientWidth() && y < window_.ClientHeight()) Clicked();
+  Clicked();
 }
 
 void Button::Clicked() {
@@ -90,7 +88,7 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Push();
       return 0;
     case WM_LBUTTONUP:
-      Release(lParam);
+      Release();
       return 0;
     default:
       return Control::Handle(message, wParam, lParam);

@@ -40,23 +40,14 @@ class ProgressBar : public RangeControl {
       case PBM_SETSTEP:
         return std::exchange(step_, static_cast<int>(wParam));
       case PBM_STEPIT:
-        return Step();
+        MoveTo(position_ + step_);
+        return 0;
       default:
         return Control::Handle(message, wParam, lParam);
     }
   }
 
  private:
-  // A step past the end begins again with what is left over.
-  LRESULT Step() {
-    const int before = position_;
-    position_ += step_;
-    if (position_ > maximum_ && maximum_ > minimum_)
-      position_ = minimum_ + (position_ - minimum_) % (maximum_ - minimum_);
-    Repaint();
-    return before;
-  }
-
   int step_ = 10;
 };
 
@@ -86,12 +77,9 @@ class Trackbar : public RangeControl {
   }
 
  private:
-  // A thumb at its end stays there and tells nothing.
   void Step(int distance) {
-    const int before = position_;
     MoveTo(position_ + distance);
-    if (position_ != before)
-      SendMessageA(window_.parent, WM_HSCROLL, 0, reinterpret_cast<LPARAM>(window_.handle));
+    SendMessageA(window_.parent, WM_HSCROLL, 0, reinterpret_cast<LPARAM>(window_.handle));
   }
 };
 
