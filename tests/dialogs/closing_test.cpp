@@ -1,32 +1,19 @@
 #include <gtest/gtest.h>
 
-#include "dialogs/crop_image.h"
-#include "dialogs/open_image.h"
-#include "dialogs/shp_options.h"
-#include "document/item_operations.h"
 #include "document/shell_calls.h"
 #include "support/allocations.h"
-#include "support/editor_fixture.h"
+#include "support/every_dialog.h"
 #include "support/picture_difference.h"
 
 namespace {
 
 using Lines = std::vector<std::string>;
 
-class ClosingTest : public EditorFixture {
+class ClosingTest : public EveryDialog {
  protected:
   void SetUp() override {
-    EditorFixture::SetUp();
-    doc.animateAboutBox = 0;
-    WritePng("mark.png", PlainPicture(300, 280, 0x00C000));
-    WriteSettings("[SymbolsList]\n1=Mark,..\\mark.png\n[CameosList]\n");
-    doc.screenshot = screenshot_;
-    AddItem(PlainPicture(20, 10, 0x102030), 100, 400, 0);
-    SelectItem(0);
+    EveryDialog::SetUp();
     shown_ = MakePicture(800, 520, [](int x, int y) { return doc.canvas.ReadPixel(x, y); });
-  }
-  std::function<void()> Chosen(UINT command) {
-    return [this, command] { Command(command); };
   }
   void ExpectNothingChanged() const {
     RepaintView();
@@ -36,36 +23,10 @@ class ClosingTest : public EditorFixture {
     EXPECT_EQ(0, opened_.valid);
     EXPECT_STREQ("", path_);
     EXPECT_TRUE(IsWindowEnabled(doc.mainWindow));
+    EXPECT_FALSE(std::filesystem::exists(File("new.shp")));
   }
 
-  static void Nothing(HWND) {}
-
-  char path_[MAX_PATH] = "";
-  ImageClass opened_, shown_;
-  const ImageClass screenshot_ = PlainPicture(234, 232, 0x8040FF);
-  const ImageClass large_ = PlainPicture(300, 280, 1);
-  const struct {
-    const char* caption;
-    std::function<void()> open;
-    std::function<void(HWND)> change;  // what the user thinks better of
-  } dialogs_[9] = {
-      {"About Corvanta", Chosen(IDM_ABOUT), Nothing},
-      {"Load screen settings", Chosen(IDM_LOAD_SCREEN_SETTINGS), Nothing},
-      {"Select item", Chosen(IDM_SELECT_ITEM), Nothing},
-      {"Add new item", Chosen(IDM_ADD_ITEM), [](HWND dialog) { Choose(dialog, IDC_ADD_LIST, 0); }},
-      {"Screen shot settings", Chosen(IDM_SCREENSHOT_SETTINGS),
-       [](HWND dialog) { Slide(dialog, IDC_SHOT_LIGHTNESS, 0); }},
-      {"Crop image",
-       [this] {
-         EXPECT_EQ(0, CropImage(opened_, large_, "a.png", {234, 232}));
-       },
-       [](HWND dialog) { Type(dialog, IDC_CROP_X, "30"); }},
-      {"Choose file to open",
-       [this] { EXPECT_EQ(0, OpenImageWithPreview(doc.mainWindow, path_, opened_)); }, Nothing},
-      {"Save As", Chosen(IDM_SAVE_AS_IMAGE), Nothing},
-      {"SHP save options", [this] { OpenShpOptions(AppPath("new.shp").c_str()); },
-       [this](HWND dialog) { Type(dialog, IDC_SHP_NAME, AppPath("new.pal")); }},
-  };
+  ImageClass shown_;
 };
 
 TEST_F(ClosingTest, CancelEscapeAndTheCloseBoxChangeNothing) {
@@ -90,7 +51,6 @@ TEST_F(ClosingTest, CancelEscapeAndTheCloseBoxChangeNothing) {
       ExpectNothingChanged();
     }
   }
-  EXPECT_FALSE(std::filesystem::exists(File("new.shp")));
 }
 
 #ifndef _WIN32  // where the exception would have to pass through the system's own code

@@ -12,14 +12,13 @@
 #include "platform/standin/testing.h"
 #endif
 
-#include "document/item_operations.h"
 #include "document/shell_calls.h"
 #include "support/allocations.h"
-#include "support/editor_fixture.h"
+#include "support/every_dialog.h"
 
 namespace {
 
-class LongUseTest : public EditorFixture {
+class LongUseTest : public EveryDialog {
  protected:
   // Live allocations, drawing objects, windows, and handles of the kernel.
   static std::array<size_t, 4> Held() {
@@ -43,9 +42,6 @@ class LongUseTest : public EditorFixture {
     return bytes >> 20;
   }
 
-  std::function<void()> Opening(const char* caption, UINT command) {
-    return [=, this] { WithDialog(caption, command, [](HWND) {}); };
-  }
   void Export() {
     user.ChooseFile("Save As", AppPath("out.shp"));
     WithDialog("SHP save options", IDM_SAVE_AS_SHP, [this](HWND dialog) {
@@ -56,15 +52,13 @@ class LongUseTest : public EditorFixture {
 };
 
 TEST_F(LongUseTest, EveryActivityLeavesAsMuchAsItFound) {
-  doc.animateAboutBox = 0;
-  doc.screenshot = PlainPicture(234, 232, 1);
-  WriteSettings("[SymbolsList]\n1=a,b\n[CameosList]\n1=a,b\n");
   int side = Allied;
-  const struct {
+  struct Activity {
     const char* name;
     int count;
     std::function<void()> step;
-  } activities[] = {
+  };
+  std::vector<Activity> activities = {
       {"repaints", 1000, [] { RepaintView(); }},
       {"items added and removed", 100,
        [this] {
@@ -75,13 +69,11 @@ TEST_F(LongUseTest, EveryActivityLeavesAsMuchAsItFound) {
       {"exports", 5, [this] { Export(); }},
       {"sides", 2, [&side] { SetSide(side = (side + 1) % 3); }},
       {"copies", 5, [this] { Command(IDM_COPY); }},
-      {"About", 10, Opening("About Corvanta", IDM_ABOUT)},
-      {"settings", 10, Opening("Load screen settings", IDM_LOAD_SCREEN_SETTINGS)},
-      {"screenshot settings", 10, Opening("Screen shot settings", IDM_SCREENSHOT_SETTINGS)},
-      {"add item", 10, Opening("Add new item", IDM_ADD_ITEM)},
-      {"select item", 10, Opening("Select item", IDM_SELECT_ITEM)},
-      {"Save dialog", 10, Opening("Save As", IDM_SAVE_AS_IMAGE)},
   };
+  for (const auto& dialog : dialogs_) {
+    activities.push_back(
+        {dialog.caption, 10, [&] { WithDialog(dialog.caption, dialog.open, [](HWND) {}); }});
+  }
   const int length = std::getenv("CORVANTA_LONG") ? 100 : 1;
   for (const auto& activity : activities) {
     for (int i = 0; i < 3; ++i) activity.step();
