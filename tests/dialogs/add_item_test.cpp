@@ -67,6 +67,7 @@ TEST_F(AddItemTest, PreviewFollowsListAndColourAndOkAddsWhatItShows) {
     Choose(dialog, IDC_ADD_LIST, kMark);
     EXPECT_EQ(Rows(".....|..An.|.gA..|....."), Preview(dialog));
     Press(dialog, IDC_ADD_YURI);
+    EXPECT_FALSE(IsChecked(dialog, IDC_ADD_ALLIED));
     EXPECT_EQ(Rows(".....|..Un.|.gU..|....."), Preview(dialog));
     Choose(dialog, IDC_ADD_LIST, kLost);
     EXPECT_EQ(Rows(".....|.....|.....|....."), Preview(dialog));

@@ -90,6 +90,10 @@ TEST_F(CropImageTest, PreviewOutlinesTheRectangleThatAClickCentres) {
   static constexpr uint32_t kPlain = 0xFF80FD, kDim = 0x80407F;
   Crop(PlainPicture(300, 280, kPlain), [](HWND dialog) {
     const HWND preview = GetDlgItem(dialog, IDC_CROP_PREVIEW);
+    MoveWindow(dialog, 0, 0, 9, 9, TRUE);
+    RECT smallest{};
+    GetWindowRect(dialog, &smallest);
+    EXPECT_TRUE(smallest.right == 440 && smallest.bottom == 334) << "no control is hidden";
     MoveWindow(dialog, 0, 0, 800, 600, TRUE);
     MoveWindow(preview, 0, 0, 600, 280, TRUE);  // two columns for each of the picture
     UpdateWindow(preview);

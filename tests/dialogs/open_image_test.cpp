@@ -65,6 +65,7 @@ TEST_F(OpenImageTest, PreviewFollowsTheSelection) {
   const std::string longest = std::string(254 - AppPath("").size(), 'n') + ".png";
   WritePng("a.png", PlainPicture(9, 9, 0x00C000));
   WritePng("wide.png", PlainPicture(900, 90, 0x00C000));
+  WritePng("high.png", PlainPicture(90, 900, 0x00C000));
   WritePng(longest, PlainPicture(9, 9, 0x00C000));
   Open(AppPath("a.png"), [&longest](HWND dialog) {
     const HWND preview = FindChild(dialog, "ImagePreview");
@@ -72,9 +73,9 @@ TEST_F(OpenImageTest, PreviewFollowsTheSelection) {
     const SIZE size = ClientSize(preview);
     const int middle = size.cx / 2, top = (size.cy - 9) / 2;
     enum { kNone, kSmall, kWide };
-    const std::pair<std::string, int> files[] = {{"Templates", kNone},   {"a.png", kSmall},
-                                                 {"lost.png", kNone},    {longest, kSmall},
-                                                 {longest + "x", kNone}, {"wide.png", kWide}};
+    const std::pair<std::string, int> files[] = {
+        {"Templates", kNone},   {"a.png", kSmall},   {"lost.png", kNone}, {longest, kSmall},
+        {longest + "x", kNone}, {"wide.png", kWide}, {"high.png", kSmall}};
     for (const auto& [name, shown] : files) {
       SelectFile(dialog, name);
       const uint32_t colour = shown ? 0x00C000 : FaceColour();

@@ -28,6 +28,8 @@ TEST_F(DocumentTest, SideAndIconCountChooseTheTemplatesOnly) {
     EXPECT_EQ(step.count == 3, CanvasPixel(519, 439) == 7) << "the third icon stays loaded";
     EXPECT_EQ(8U, CanvasPixel(775, 498)) << "so does the screenshot";
   }
+  for (const int none : {1, 4}) SetIconCount(none);
+  EXPECT_EQ(2, doc.iconCount);
   EXPECT_STREQ("Yuri", SideName(7));
 }
 

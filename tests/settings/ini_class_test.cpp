@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "files/file_class.h"
 #include "platform/win32.h"
 #include "support/file_content.h"
 #include "support/temp_folder.h"
@@ -108,6 +109,7 @@ TEST_F(IniClassTest, EachLoadStartsAfresh) {
   const HANDLE other = CreateFileA(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                    OPEN_EXISTING, 0, nullptr);
   EXPECT_TRUE(reader_.Load()) << "while another writes the file";
+  EXPECT_FALSE(FileClass(path_.c_str()).Open(0)) << "which wants it for itself";
   CloseHandle(other);
   EXPECT_TRUE(reader_.SetFileName(std::string(MAX_PATH - 1, 'x').c_str()));
   EXPECT_EQ("[s]a=1|", Content()) << "naming a file loads nothing";
