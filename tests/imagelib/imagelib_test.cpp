@@ -1,8 +1,13 @@
 #include "imagelib/imagelib.h"
 
 #include <filesystem>
+#include <thread>
 
 #include "imagelib/picture_files.h"
+#include "platform/win32.h"
+#ifdef _WIN32
+#include <objbase.h>
+#endif
 
 namespace {
 
@@ -137,6 +142,16 @@ TEST_F(ImageLibTest, WorksUntilTheLastUserLeaves) {
   std::uint32_t pixel = 0;
   EXPECT_EQ(0, ImageSave(path_.c_str(), &pixel, 1, 1));
   ImageUnInit();
+#ifdef _WIN32
+  std::thread([] {
+    ASSERT_NE(0, ImageInit());
+    ImageUnInit();
+    EXPECT_EQ(S_OK, CoInitializeEx(nullptr, COINIT_MULTITHREADED)) << "its apartment is left";
+    EXPECT_NE(0, ImageInit()) << "in one of the other kind";
+    ImageUnInit();
+    CoUninitialize();
+  }).join();
+#endif
   for (int i = 0; i < users; ++i) ASSERT_NE(0, ImageInit());
   EXPECT_EQ(0, ImageLoad(path_.c_str(), &pixel)) << "the size outlived the library's users";
   EXPECT_EQ(Gradient(1, 1), LoadPicture(path_));
