@@ -9,7 +9,7 @@ int left = -1;
 size_t live = 0;
 
 void* TryAllocate(size_t size) noexcept {
-  if (left-- == 0) return nullptr;
+  if (left >= 0 && left-- == 0) return nullptr;
   void* const memory = std::malloc(size ? size : 1);
   if (memory) ++live;
   return memory;
