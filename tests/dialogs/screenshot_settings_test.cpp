@@ -74,6 +74,8 @@ TEST_F(ScreenshotSettingsTest, OkKeepsAdjustmentsWhichCompoundAndNeedAScreenshot
   user.Answer("Corvanta", "Please select screenshot in the load screen settings dialog",
               MB_ICONEXCLAMATION, IDOK);
   EXPECT_EQ(0, OpenScreenshotSettings(doc.mainWindow));
+  user.When("Corvanta", [](HWND) { PressKey(GetFocus(), VK_ESCAPE); });
+  EXPECT_EQ(0, OpenScreenshotSettings(doc.mainWindow)) << "Escape is as good as OK";
 }
 
 }  // namespace
