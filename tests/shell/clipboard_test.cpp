@@ -56,8 +56,16 @@ TEST_F(ClipboardTest, HoldsWhatTheViewShowedUnlessItIsInUse) {
   EXPECT_EQ(objects, standin::LiveGdiObjects()) << "nothing is left";
 #endif
   EXPECT_EQ("", Difference(before, Pasted()));
+#ifdef _WIN32
+  ASSERT_TRUE(OpenClipboard(doc.viewWindow));
+  SetClipboardData(CF_TEXT, GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 1));
+  CloseClipboard();
+#endif
   Command(IDM_COPY);
   EXPECT_EQ("", Difference(doc.canvas, Pasted())) << "the second copy replaces the first";
+#ifdef _WIN32
+  EXPECT_FALSE(IsClipboardFormatAvailable(CF_TEXT)) << "and what else was there";
+#endif
 }
 
 }  // namespace
